@@ -1,0 +1,309 @@
+#include "messageviewmodules.h"
+
+#include "messageviewmetaobjctx.h"
+#include "msgbasewidget.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QMutexLocker>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QThread>
+#include <QTreeWidget>
+
+#include <cstring>
+
+static void initMessageViewResources()
+{
+    // Needed when the library's objects are linked statically (tests, tools).
+    Q_INIT_RESOURCE(messageview);
+}
+
+namespace {
+bool isBinaryMode(int mode)
+{
+    return mode == 4 || mode == 5;
+}
+} // namespace
+
+MessageViewModules::MessageViewModules(QStackedWidget *stack, QString language)
+    : QObject(nullptr)
+    , m_stack(stack)
+{
+    initMessageViewResources();
+    if (language == QLatin1String("EN")) {
+        m_translator.load(QStringLiteral(":/language_Message_EN.qm"));
+        m_languageFlag = 0;
+    } else {
+        m_translator.load(QStringLiteral(":/language_Message_CH.qm"));
+        m_languageFlag = 1;
+    }
+    QCoreApplication::installTranslator(&m_translator);
+    initTreeWidget();
+}
+
+MessageViewModules::~MessageViewModules()
+{
+    clearMesWidgetList();
+    delete m_tree;
+}
+
+void MessageViewModules::initTreeWidget()
+{
+    m_currentItem = nullptr;
+    m_tree = new QTreeWidget;
+    connect(m_tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *item, int) {
+        if (item)
+            changeStack(item);
+    });
+    m_tree->setHeaderHidden(true);
+    m_tree->setObjectName(QStringLiteral("MsgTreeWidget"));
+    m_tree->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_tree->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_tree->setFocusPolicy(Qt::NoFocus);
+    m_tree->setColumnCount(1);
+    m_tree->verticalScrollBar()->setStyleSheet(QStringLiteral(
+        "QScrollBar:vertical{background: rgba(0,0,0,10%);width: 10px;}"
+        "QScrollBar::handle:vertical{background:#3461b6;min-height: 20px;max-height: 20px;width: 10px;}"
+        "QScrollBar::add-line:vertical{height: 0px;width: 0px;}"
+        "QScrollBar::sub-line:vertical{height: 0px;width: 0px;}"));
+    m_tree->horizontalScrollBar()->setStyleSheet(QStringLiteral(
+        "QScrollBar:horizontal{background: rgba(0,0,0,10%);height: 10px;}"
+        "QScrollBar::handle:horizontal{background:#3461b6;min-width: 20px;max-width: 20px;height: 10px;}"
+        "QScrollBar::add-line:horizontal{height: 0px;width: 0px;}"
+        "QScrollBar::sub-line:horizontal{height: 0px;width: 0px;}"));
+    m_tree->setStyleSheet(QStringLiteral(
+        "#MsgTreeWidget{background: white;border: 0px;font-size: 16px;font-family: Arial;"
+        "font-weight: 400;text-align: left;color: #666666;padding-left: 15px;padding-top: 10px;"
+        "min-width:120px;}"
+        "#MsgTreeWidget::item{height: 36px;margin-right: 30px;}"
+        "#MsgTreeWidget::item:selected{color: #3461b6;border-bottom: 2px solid #3461b6;}"));
+
+    m_nmeaItem = new QTreeWidgetItem(QStringList(QStringLiteral("NMEA")));
+    m_korvaneAsciiItem = new QTreeWidgetItem(QStringList(QStringLiteral("Korvane")));
+    m_korvaneBinaryItem = new QTreeWidgetItem(QStringList(QStringLiteral("Korvane")));
+    m_timeItem = new QTreeWidgetItem(QStringList(QStringLiteral("Time")));
+    m_tree->addTopLevelItem(m_nmeaItem);
+    m_tree->addTopLevelItem(m_korvaneAsciiItem);
+    m_tree->addTopLevelItem(m_timeItem);
+    m_tree->addTopLevelItem(m_korvaneBinaryItem);
+}
+
+QTreeWidget *MessageViewModules::getTreeWidget()
+{
+    return m_tree;
+}
+
+int MessageViewModules::addItemToTree(int mode)
+{
+    if (mode == m_mode)
+        return 0;
+    const int old = m_mode;
+    int result;
+    // Deliberately asymmetric: leaving mode 0 for 1, 2 or 7 also reports 1.
+    if (old == 0 || isBinaryMode(old))
+        result = isBinaryMode(mode) ? 0 : 1;
+    else
+        result = isBinaryMode(mode) ? 2 : 0;
+
+    m_mode = mode;
+    clearMesWidgetList();
+    switch (mode) {
+    case 0: addItemToTree_IDLE(); break;
+    case 1:
+    case 2:
+        addItemToTree_IDLE();
+        addItemToTree_HPL();
+        break;
+    case 4:
+    case 5: addItemToTree_NPL(); break;
+    case 7:
+        addItemToTree_IDLE();
+        addItemToTree_Timeing();
+        break;
+    default: break; // modes without pages: only the NMEA item remains
+    }
+    m_acceptedCounts = QVector<quint64>(m_pages.size(), 0);
+    m_tree->expandAll();
+    if (m_stack) {
+        for (MsgBaseWidget *page : qAsConst(m_pages))
+            m_stack->addWidget(page);
+        if (!m_pages.isEmpty())
+            m_stack->setCurrentWidget(m_pages.first());
+    }
+    return result;
+}
+
+void MessageViewModules::clearMesWidgetList()
+{
+    m_lineBuffer.clear();
+    m_scanFrom = 0;
+    m_korvaneAsciiItem->setHidden(true);
+    m_timeItem->setHidden(true);
+    m_korvaneBinaryItem->setHidden(true);
+
+    // Only a message item is deleted here; a clicked category item belongs to the
+    // module for its whole life and is merely forgotten.
+    if (m_currentItem) {
+        if (m_currentItem->parent())
+            delete m_currentItem;
+        m_currentItem = nullptr;
+    }
+
+    if (!m_pages.isEmpty()) {
+        QMutexLocker locker(&m_mutex);
+        for (int i = 0; i < m_pages.size(); ++i) {
+            MsgBaseWidget *page = m_pages[i];
+            if (m_stack)
+                m_stack->removeWidget(page);
+            delete page;
+            qDebug() << "clearMesWidgetList" << QThread::currentThreadId();
+            m_pages[i] = nullptr;
+            m_binaryPage = nullptr;
+        }
+    }
+    m_pages = QList<MsgBaseWidget *>();
+    m_acceptedCounts.clear();
+
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i)
+        qDeleteAll(m_tree->topLevelItem(i)->takeChildren());
+}
+
+void MessageViewModules::addItembyMeta(const MessageViewMetaObjCtx *table, int count, QTreeWidgetItem *category)
+{
+    for (int i = 0; i < count; ++i) {
+        const MessageViewMetaObjCtx &entry = table[i];
+        if (entry.modeFilter != 0 && entry.modeFilter != m_mode)
+            continue;
+        QObject *object = entry.metaObject.newInstance(Q_ARG(QWidget *, nullptr), Q_ARG(QString, entry.label),
+                                                       Q_ARG(QTreeWidgetItem *, category));
+        if (auto *page = qobject_cast<MsgBaseWidget *>(object))
+            m_pages.append(page);
+        else
+            delete object;
+    }
+}
+
+void MessageViewModules::addItemToTree_IDLE()
+{
+    m_nmeaItem->setHidden(false);
+    addItembyMeta(nmeaCatalogue.entries, nmeaCatalogue.count, m_nmeaItem);
+}
+
+void MessageViewModules::addItemToTree_HPL()
+{
+    m_korvaneAsciiItem->setHidden(false);
+    addItembyMeta(korvaneAsciiCatalogue.entries, korvaneAsciiCatalogue.count, m_korvaneAsciiItem);
+}
+
+void MessageViewModules::addItemToTree_Timeing()
+{
+    m_timeItem->setHidden(false);
+    addItembyMeta(timingCatalogue.entries, timingCatalogue.count, m_timeItem);
+}
+
+void MessageViewModules::addItemToTree_NPL()
+{
+    // The binary decode page and its message names join these two items.
+    m_nmeaItem->setHidden(false);
+    m_korvaneBinaryItem->setHidden(false);
+}
+
+void MessageViewModules::setTreeForeground()
+{
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *category = m_tree->topLevelItem(i);
+        for (int j = 0; j < category->childCount(); ++j)
+            category->child(j)->setForeground(0, Qt::gray);
+    }
+}
+
+void MessageViewModules::changeStack(QTreeWidgetItem *item)
+{
+    if (m_currentItem && m_currentItem->parent())
+        m_currentItem->setForeground(0, Qt::gray);
+    m_currentItem = item;
+    if (!item->parent())
+        return;
+    if (isBinaryMode(m_mode)) {
+        if (!m_binaryPage)
+            return;
+        emit messageViewTitleShow(item->text(0));
+        if (m_stack)
+            m_stack->setCurrentWidget(m_binaryPage);
+        return;
+    }
+    for (MsgBaseWidget *page : qAsConst(m_pages)) {
+        if (page && page->treeItem() == item) {
+            emit messageViewTitleShow(item->text(0));
+            if (m_stack)
+                m_stack->setCurrentWidget(page);
+            return;
+        }
+    }
+}
+
+void MessageViewModules::onUpdateBuffer(QByteArray data)
+{
+    if (isBinaryMode(m_mode)) {
+        QMutexLocker locker(&m_mutex);
+        if (m_binaryPage)
+            m_binaryPage->parseRawData(data);
+        return;
+    }
+
+    m_lineBuffer.append(data);
+    const char *bytes = m_lineBuffer.constData();
+    const int size = m_lineBuffer.size();
+    int lineStart = 0;
+    int searchFrom = m_scanFrom;
+    while (searchFrom < size) {
+        const char *cr = static_cast<const char *>(memchr(bytes + searchFrom, '\r', size - searchFrom));
+        if (!cr) {
+            searchFrom = size;
+            break;
+        }
+        const int crAt = int(cr - bytes);
+        if (crAt + 1 >= size) {
+            searchFrom = crAt; // a lone '\r' at the end: look at it again with more bytes
+            break;
+        }
+        if (bytes[crAt + 1] != '\n') {
+            searchFrom = crAt + 1;
+            continue;
+        }
+        const int lineEnd = crAt + 2;
+        offerLine(QString::fromUtf8(bytes + lineStart, lineEnd - lineStart));
+        lineStart = lineEnd;
+        searchFrom = lineEnd;
+    }
+    m_lineBuffer.remove(0, lineStart);
+    m_scanFrom = searchFrom - lineStart;
+}
+
+void MessageViewModules::offerLine(const QString &line)
+{
+    ++m_lineCount;
+    for (int i = 0; i < m_pages.size(); ++i) {
+        MsgBaseWidget *page = m_pages.at(i);
+        if (page && page->parse(line)) {
+            if (QTreeWidgetItem *item = page->treeItem())
+                item->setForeground(0, Qt::black);
+            ++m_acceptedCounts[i];
+            return;
+        }
+    }
+}
+
+QList<QPair<QString, quint64>> MessageViewModules::acceptedLineCounts() const
+{
+    QList<QPair<QString, quint64>> counts;
+    for (int i = 0; i < m_pages.size(); ++i) {
+        const MsgBaseWidget *page = m_pages.at(i);
+        if (!page)
+            continue;
+        const QString label = page->treeItem() ? page->treeItem()->text(0) : page->metaObject()->className();
+        counts.append({label, m_acceptedCounts.value(i)});
+    }
+    return counts;
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "messageviewmodules_global.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QMutex>
+#include <QObject>
+#include <QPair>
+#include <QString>
+#include <QTranslator>
+#include <QVector>
+
+class MsgBaseWidget;
+class QStackedWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+struct MessageViewMetaObjCtx;
+
+// The receiver message view: a tree of message names and one live page per message
+// kind in the host's stacked widget. The host feeds every received chunk of bytes to
+// onUpdateBuffer() and chooses the product mode with addItemToTree().
+class MESSAGEVIEW_EXPORT MessageViewModules : public QObject
+{
+    Q_OBJECT
+public:
+    // language "EN" selects English; anything else shows the Chinese source texts.
+    MessageViewModules(QStackedWidget *stack, QString language);
+    ~MessageViewModules() override;
+
+    // Builds the page set of a product mode. Returns 0 when the mode is unchanged or
+    // the view stays in the same presentation, 1 when leaving the binary presentation
+    // (old mode 0, 4 or 5), 2 when entering it (new mode 4 or 5).
+    int addItemToTree(int mode);
+    QTreeWidget *getTreeWidget();
+    // Greys every message item again (clears the marks of received messages).
+    void setTreeForeground();
+
+    // Lines taken per page, in page order, labelled by tree text; and all lines cut.
+    QList<QPair<QString, quint64>> acceptedLineCounts() const;
+    quint64 lineCount() const { return m_lineCount; }
+
+signals:
+    void messageViewTitleShow(QString nTitle);
+
+public slots:
+    void onUpdateBuffer(QByteArray data);
+
+private:
+    void initTreeWidget();
+    void changeStack(QTreeWidgetItem *item);
+    void clearMesWidgetList();
+    void addItembyMeta(const MessageViewMetaObjCtx *table, int count, QTreeWidgetItem *category);
+    void addItemToTree_IDLE();
+    void addItemToTree_HPL();
+    void addItemToTree_Timeing();
+    void addItemToTree_NPL();
+    void offerLine(const QString &line);
+
+    QMutex m_mutex;
+    MsgBaseWidget *m_binaryPage = nullptr;
+    int m_languageFlag = 0;
+    QStackedWidget *m_stack = nullptr;
+    QList<MsgBaseWidget *> m_pages;
+    QTreeWidget *m_tree = nullptr;
+    QTreeWidgetItem *m_currentItem = nullptr;
+    QTreeWidgetItem *m_nmeaItem = nullptr;
+    QTreeWidgetItem *m_korvaneAsciiItem = nullptr;
+    QTreeWidgetItem *m_korvaneBinaryItem = nullptr;
+    QTreeWidgetItem *m_timeItem = nullptr;
+    int m_mode = -1;
+    QByteArray m_lineBuffer;
+    QTranslator m_translator;
+
+    // Where the next search for "\r\n" starts, so bytes already scanned are never
+    // scanned again however the stream is chunked.
+    int m_scanFrom = 0;
+    QVector<quint64> m_acceptedCounts;
+    quint64 m_lineCount = 0;
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+#if defined(MESSAGEVIEW_LIBRARY)
+#define MESSAGEVIEW_EXPORT Q_DECL_EXPORT
+#else
+#define MESSAGEVIEW_EXPORT Q_DECL_IMPORT
+#endif

@@ -1,0 +1,21 @@
+#include "psrpostable.h"
+
+#include "bestpostable.h"
+
+const FieldTableSpec &PsrposTable::pageSpec()
+{
+    static const FieldTableSpec spec =
+        FieldTableSpec::record(staticMetaObject, "#PSRPOSA,", BestposTable::bestPositionRows())
+            .replaceRow(19, {QT_TR_NOOP("Galileo sigmask"), "", QT_TR_NOOP("Galileo 使用的信号掩码")})
+            .replaceRow(20, {QT_TR_NOOP("GPS GLONASS and BDS sigmask"), "", QT_TR_NOOP("GPS, GLONASS 和 BDS 使用的信号掩码")})
+            .layout(FormLayout::Grid, "gridLayout", QMargins(-1, -1, 3, 3))
+            .window(1078, 798)
+            .valuesAligned(Qt::AlignHCenter | Qt::AlignVCenter)
+            .statusCells(true);
+    return spec;
+}
+
+PsrposTable::PsrposTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent)
+    : FieldTablePage(pageSpec(), parent, introStr, treeParent)
+{
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "fieldtablepage.h"
+
+// PSRPOS: the pseudorange-only position.
+class PsrposTable : public FieldTablePage
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE PsrposTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+
+private:
+    static const FieldTableSpec &pageSpec();
+};

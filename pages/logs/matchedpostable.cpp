@@ -33,8 +33,8 @@ QVector<FieldRow> MatchedposTable::matchedPositionRows()
 
 const FieldTableSpec &MatchedposTable::pageSpec()
 {
-    // No trailing comma in the header: "#MATCHEDPOSA" also begins every MATCHEDPOSH
-    // log, so this page takes those too when it is offered them first (intended).
+    // No trailing comma in the header, as specified. The prose claims this prefix also
+    // begins MATCHEDPOSH logs, but "#MATCHEDPOSHA" differs at index 11: the literal holds.
     static const FieldTableSpec spec =
         FieldTableSpec::record(staticMetaObject, "#MATCHEDPOSA", matchedPositionRows())
             .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))

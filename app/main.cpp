@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QStackedWidget>
 #include <QTextStream>
 
@@ -38,6 +39,10 @@ int main(int argc, char **argv)
     if (wantsHeadless(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    // The library's debug lines (page deletion) are for developers; QT_LOGGING_RULES
+    // brings them back.
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     QApplication::setApplicationName(QStringLiteral("msgview"));
 
     QCommandLineParser parser;

@@ -1,0 +1,341 @@
+#include "messageviewmetaobjctx.h"
+#include "moduleharness.h"
+#include "msgbasewidget.h"
+#include "receiverlines.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTreeWidget>
+#include <QtTest>
+
+using namespace ReceiverLines;
+
+namespace {
+
+QByteArray bestpos(const QByteArray &marker)
+{
+    return log(logBody("BESTPOSA", "SOL_COMPUTED,SINGLE," + marker + QByteArray(",x").repeated(18)));
+}
+
+QStringList categoryTexts(QTreeWidget *tree, bool visibleOnly)
+{
+    QStringList texts;
+    for (int i = 0; i < tree->topLevelItemCount(); ++i) {
+        if (!visibleOnly || !tree->topLevelItem(i)->isHidden())
+            texts << tree->topLevelItem(i)->text(0);
+    }
+    return texts;
+}
+
+QStringList expectedLabels(int mode)
+{
+    QStringList labels;
+    auto add = [&](const MessageViewCatalogue &catalogue) {
+        for (int i = 0; i < catalogue.count; ++i) {
+            if (catalogue.entries[i].modeFilter == 0 || catalogue.entries[i].modeFilter == mode)
+                labels << catalogue.entries[i].label;
+        }
+    };
+    add(nmeaCatalogue);
+    if (mode == 1 || mode == 2)
+        add(korvaneAsciiCatalogue);
+    if (mode == 7)
+        add(timingCatalogue);
+    return labels;
+}
+
+} // namespace
+
+class ModuleTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void treeHasItsCategoriesAndName();
+    void lineSplitAtEveryByteIsTakenOnce();
+    void manyLinesInOneChunkAndStrayLineEnds();
+    void unmatchedLinesAreDiscarded();
+    void returnCodes_data();
+    void returnCodes();
+    void sameModeKeepsPagesAndBuffer();
+    void modesWithoutPagesShowOnlyNmea_data();
+    void modesWithoutPagesShowOnlyNmea();
+    void modesBuildTheirCatalogueEntriesInOrder_data();
+    void modesBuildTheirCatalogueEntriesInOrder();
+    void everyCatalogueClassIsCreatableByMetaObject();
+    void shortIntroductionGivesNoTreeItem();
+    void clicksBringPagesForwardAndRecolour();
+    void setTreeForegroundClearsMarks();
+    void statusVocabulariesMatchPrefixesInOrder_data();
+    void statusVocabulariesMatchPrefixesInOrder();
+    void languageSelectsTranslation();
+    void styleSheetResourceIsVerbatim();
+};
+
+void ModuleTest::treeHasItsCategoriesAndName()
+{
+    QStackedWidget stack;
+    MessageViewModules module(&stack, "EN");
+    QTreeWidget *tree = module.getTreeWidget();
+    QCOMPARE(tree->objectName(), QString("MsgTreeWidget"));
+    QCOMPARE(categoryTexts(tree, false), QStringList({"NMEA", "Korvane", "Time", "Korvane"}));
+    QCOMPARE(stack.count(), 0);
+}
+
+void ModuleTest::lineSplitAtEveryByteIsTakenOnce()
+{
+    const QByteArray line = bestpos("split");
+    for (int cut = 1; cut < line.size(); ++cut) {
+        ModuleHarness h(2);
+        h.show("Bestpos");
+        h.feed(line.left(cut));
+        QCOMPARE(h.module().lineCount(), quint64(0));
+        h.feed(line.mid(cut));
+        QCOMPARE(h.module().lineCount(), quint64(1));
+        QCOMPARE(h.cell("Bestpos", 2, 1), QString("split"));
+    }
+}
+
+void ModuleTest::manyLinesInOneChunkAndStrayLineEnds()
+{
+    ModuleHarness h(2);
+    h.show("Bestpos");
+    QByteArray chunk;
+    for (int i = 0; i < 500; ++i)
+        chunk += bestpos(QByteArray::number(i));
+    // A lone '\r' or '\n' does not end a line; the following line is still cut right.
+    chunk += "garbage\rmore\nstill one line\r\n" + bestpos("last");
+    h.feed(chunk);
+    QCOMPARE(h.module().lineCount(), quint64(502));
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString("last"));
+    // Byte by byte, including a "\r" at a chunk end, cuts the same lines.
+    for (char ch : bestpos("bytes"))
+        h.feed(QByteArray(1, ch));
+    QCOMPARE(h.module().lineCount(), quint64(503));
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString("bytes"));
+}
+
+void ModuleTest::unmatchedLinesAreDiscarded()
+{
+    ModuleHarness h(2);
+    h.feed("$GPXXX,1,2*00\r\n" + logWithStandardCrc(logBody("BESTPOSA", "a")) + "\r\n");
+    QCOMPARE(h.module().lineCount(), quint64(3));
+    quint64 taken = 0;
+    for (const auto &count : h.module().acceptedLineCounts())
+        taken += count.second;
+    QCOMPARE(taken, quint64(0));
+}
+
+void ModuleTest::returnCodes_data()
+{
+    QTest::addColumn<QList<int>>("modes");
+    QTest::addColumn<QList<int>>("codes");
+    QTest::newRow("from nothing") << QList<int>{0, 2, 4} << QList<int>{0, 1, 2};
+    QTest::newRow("into binary") << QList<int>{2, 5} << QList<int>{0, 2};
+    QTest::newRow("binary to binary") << QList<int>{4, 5, 4} << QList<int>{2, 0, 0};
+    QTest::newRow("binary to text") << QList<int>{5, 7} << QList<int>{2, 1};
+    QTest::newRow("leaving mode 0 reports 1") << QList<int>{0, 1, 0, 7} << QList<int>{0, 1, 0, 1};
+    QTest::newRow("text to text") << QList<int>{1, 2, 7, 3} << QList<int>{0, 0, 0, 0};
+    QTest::newRow("unknown modes") << QList<int>{6, 4, 99} << QList<int>{0, 2, 1};
+    QTest::newRow("same mode") << QList<int>{2, 2, 0, 0} << QList<int>{0, 0, 0, 0};
+}
+
+void ModuleTest::returnCodes()
+{
+    QFETCH(QList<int>, modes);
+    QFETCH(QList<int>, codes);
+    QStackedWidget stack;
+    MessageViewModules module(&stack, "EN");
+    QList<int> results;
+    for (int mode : modes)
+        results << module.addItemToTree(mode);
+    QCOMPARE(results, codes);
+}
+
+void ModuleTest::sameModeKeepsPagesAndBuffer()
+{
+    ModuleHarness h(2);
+    h.show("Bestpos");
+    QWidget *page = h.page("Bestpos");
+    const QByteArray line = bestpos("kept");
+    h.feed(line.left(20));
+    QCOMPARE(h.module().addItemToTree(2), 0);
+    QCOMPARE(h.page("Bestpos"), page);
+    h.feed(line.mid(20));
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString("kept"));
+
+    // A real mode change clears the partial line.
+    h.feed(line.left(20));
+    h.module().addItemToTree(1);
+    h.module().addItemToTree(2);
+    h.show("Bestpos");
+    h.feed(line.mid(20));
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString());
+}
+
+void ModuleTest::modesWithoutPagesShowOnlyNmea_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("3") << 3;
+    QTest::newRow("6") << 6;
+    QTest::newRow("-7") << -7;
+}
+
+void ModuleTest::modesWithoutPagesShowOnlyNmea()
+{
+    QFETCH(int, mode);
+    ModuleHarness h(2);
+    QVERIFY(h.pageCount() > 0);
+    h.module().addItemToTree(mode);
+    QCOMPARE(h.pageCount(), 0);
+    QTreeWidget *tree = h.module().getTreeWidget();
+    QCOMPARE(categoryTexts(tree, true), QStringList({"NMEA"}));
+    for (int i = 0; i < tree->topLevelItemCount(); ++i)
+        QCOMPARE(tree->topLevelItem(i)->childCount(), 0);
+}
+
+void ModuleTest::modesBuildTheirCatalogueEntriesInOrder_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QStringList>("categories");
+    QTest::newRow("0") << 0 << QStringList({"NMEA"});
+    QTest::newRow("1") << 1 << QStringList({"NMEA", "Korvane"});
+    QTest::newRow("2") << 2 << QStringList({"NMEA", "Korvane"});
+    QTest::newRow("7") << 7 << QStringList({"NMEA", "Time"});
+}
+
+void ModuleTest::modesBuildTheirCatalogueEntriesInOrder()
+{
+    QFETCH(int, mode);
+    QFETCH(QStringList, categories);
+    ModuleHarness h(mode);
+    QCOMPARE(h.pageLabels(), expectedLabels(mode));
+    QCOMPARE(categoryTexts(h.module().getTreeWidget(), true), categories);
+    // The first page is current and the tree is expanded.
+    if (h.pageCount() > 0)
+        QCOMPARE(h.stack().currentIndex(), 0);
+    QVERIFY(h.module().getTreeWidget()->topLevelItem(0)->isExpanded());
+}
+
+void ModuleTest::everyCatalogueClassIsCreatableByMetaObject()
+{
+    QTreeWidgetItem category;
+    for (const MessageViewCatalogue *catalogue : {&nmeaCatalogue, &korvaneAsciiCatalogue, &timingCatalogue}) {
+        for (int i = 0; i < catalogue->count; ++i) {
+            const MessageViewMetaObjCtx &entry = catalogue->entries[i];
+            QObject *object = entry.metaObject.newInstance(Q_ARG(QWidget *, nullptr), Q_ARG(QString, entry.label),
+                                                           Q_ARG(QTreeWidgetItem *, &category));
+            auto *page = qobject_cast<MsgBaseWidget *>(object);
+            QVERIFY2(page, qPrintable(entry.label));
+            QCOMPARE(page->treeItem()->parent(), &category);
+            QCOMPARE(page->treeItem()->text(0), entry.label);
+            delete page;
+        }
+    }
+}
+
+void ModuleTest::shortIntroductionGivesNoTreeItem()
+{
+    QTreeWidgetItem category;
+    for (const QString &intro : {QString(), QString("B")}) {
+        QObject *object = korvaneAsciiCatalogue.entries[0].metaObject.newInstance(
+            Q_ARG(QWidget *, nullptr), Q_ARG(QString, intro), Q_ARG(QTreeWidgetItem *, &category));
+        auto *page = qobject_cast<MsgBaseWidget *>(object);
+        QVERIFY(page);
+        QCOMPARE(page->treeItem(), nullptr);
+        delete page;
+    }
+    QCOMPARE(category.childCount(), 0);
+}
+
+void ModuleTest::clicksBringPagesForwardAndRecolour()
+{
+    ModuleHarness h(2);
+    QSignalSpy titles(&h.module(), &MessageViewModules::messageViewTitleShow);
+    QVERIFY(h.show("Tdifpos"));
+    QCOMPARE(h.stack().currentWidget(), h.page("Tdifpos"));
+    QCOMPARE(titles.takeFirst().at(0).toString(), QString("Tdifpos"));
+
+    h.feed(log(logBody("TDIFPOSA", "SOL_COMPUTED,SINGLE" + QByteArray(",x").repeated(19))));
+    QVERIFY(h.isMarked("Tdifpos"));
+    // Leaving the page greys its item again; a category click changes nothing else.
+    QTreeWidget *tree = h.module().getTreeWidget();
+    emit tree->itemClicked(tree->topLevelItem(1), 0);
+    QVERIFY(!h.isMarked("Tdifpos"));
+    QCOMPARE(h.stack().currentWidget(), h.page("Tdifpos"));
+    QVERIFY(titles.isEmpty());
+    // A mode change after a category click leaves the category in place.
+    h.module().addItemToTree(1);
+    QCOMPARE(categoryTexts(tree, false), QStringList({"NMEA", "Korvane", "Time", "Korvane"}));
+}
+
+void ModuleTest::setTreeForegroundClearsMarks()
+{
+    ModuleHarness h(2);
+    h.feed(bestpos("x"));
+    QVERIFY(h.isMarked("Bestpos"));
+    h.module().setTreeForeground();
+    QVERIFY(!h.isMarked("Bestpos"));
+}
+
+void ModuleTest::statusVocabulariesMatchPrefixesInOrder_data()
+{
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("statusText");
+    QTest::addColumn<QString>("typeText");
+    QTest::newRow("exact") << "COV_TRACE" << "NARROW_FLOAT" << "Covariance matrix trace exceeds maximum"
+                           << "Narrow-lane float solution";
+    QTest::newRow("rtk float by prefix") << "NO_CONVERGENCE" << "INS_RTKFLOAT" << "No convergence, invalid solution"
+                                         << "Integrated solution of INS and RTK float";
+    QTest::newRow("bare INS last") << "SOL_COMPUTED_X" << "INS_SOMETHING" << "Solution computed"
+                                   << "Inertial navigation solution";
+    QTest::newRow("INS_PSRSP before INS") << "SOL_COMPUTED" << "INS_PSRSPX" << "Solution computed"
+                                          << "Integrated solution of INS and single point positioning";
+    QTest::newRow("SBAS prefix") << "INSUFFICIENT_OBS" << "SBASX" << "Insufficient observation" << "SBAS positioning";
+    QTest::newRow("unknown keeps previous") << "SOL" << "NON" << "Solution computed" << "Single point positioning";
+    QTest::newRow("empty keeps previous") << "" << "" << "Solution computed" << "Single point positioning";
+}
+
+void ModuleTest::statusVocabulariesMatchPrefixesInOrder()
+{
+    QFETCH(QString, status);
+    QFETCH(QString, type);
+    QFETCH(QString, statusText);
+    QFETCH(QString, typeText);
+    ModuleHarness h(2);
+    h.show("Psrpos");
+    h.feed(log(logBody("PSRPOSA", "SOL_COMPUTED,SINGLE" + QByteArray(",x").repeated(19))));
+    h.feed(log(logBody("PSRPOSA", status.toLatin1() + "," + type.toLatin1() + QByteArray(",x").repeated(19))));
+    QCOMPARE(h.cell("Psrpos", 0, 3), statusText);
+    QCOMPARE(h.cell("Psrpos", 1, 3), typeText);
+}
+
+void ModuleTest::languageSelectsTranslation()
+{
+    {
+        ModuleHarness h(2, "EN");
+        QCOMPARE(h.table("Bestpos")->horizontalHeaderItem(0)->text(), QString("Parameter"));
+        QCOMPARE(h.cell("Bestpos", 4, 3), QString("Altitude"));
+        QCOMPARE(h.cell("Psrpos", 14, 3), QString("Number of sttellites used in solution"));
+    }
+    ModuleHarness h(2, "CH");
+    QCOMPARE(h.table("Bestpos")->horizontalHeaderItem(0)->text(), QString("参数"));
+    QCOMPARE(h.cell("Bestpos", 4, 3), QString("海拔高"));
+}
+
+void ModuleTest::styleSheetResourceIsVerbatim()
+{
+    ModuleHarness h(0); // the module makes the resources available
+    QFile qss(":/msgbasewidget.qss");
+    QVERIFY(qss.open(QIODevice::ReadOnly));
+    const QByteArray sheet = qss.readAll();
+    QVERIFY(sheet.startsWith("QTableWidget{\r\n"));
+    QVERIFY(sheet.contains("sub-line:vertical{\r\nheight: 0px;\r\nidth: 0px;\r\n}"));
+    QCOMPARE(sheet.count('\n'), sheet.count("\r\n"));
+    QVERIFY(QFile::exists(":/language_Message_CH.qm"));
+    QVERIFY(QFile::exists(":/language_Message_EN.qm"));
+}
+
+QTEST_MAIN(ModuleTest)
+#include "tst_module.moc"

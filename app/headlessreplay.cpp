@@ -2,7 +2,12 @@
 
 #include "messageviewmodules.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QStackedWidget>
+#include <QWidget>
 
 int runHeadlessReplay(MessageViewModules &module, QIODevice &input, QTextStream &out)
 {
@@ -33,4 +38,50 @@ int runHeadlessReplay(MessageViewModules &module, QIODevice &input, QTextStream 
         << "  MB/s: " << QString::number(bytes / seconds / 1e6, 'f', 1) << '\n';
     out.flush();
     return 0;
+}
+
+int runSnapshot(MessageViewModules &module, QStackedWidget &stack, QIODevice &input, const QString &directory,
+                QTextStream &out)
+{
+    if (!QDir().mkpath(directory)) {
+        out << "msgview: cannot create " << directory << '\n';
+        return 1;
+    }
+    // Only a visible page shows what it takes; lift every page out of the stack as its
+    // own offscreen window so one pass fills them all.
+    QList<QWidget *> pages;
+    while (stack.count() > 0) {
+        QWidget *page = stack.widget(0);
+        stack.removeWidget(page);
+        page->setParent(nullptr);
+        page->resize(1078, 798);
+        page->show();
+        pages << page;
+    }
+    for (QByteArray chunk = input.read(64 * 1024); !chunk.isEmpty(); chunk = input.read(64 * 1024))
+        module.onUpdateBuffer(chunk);
+    QCoreApplication::processEvents();
+
+    const QList<QPair<QString, quint64>> counts = module.acceptedLineCounts();
+    int written = 0;
+    for (int i = 0; i < pages.size(); ++i) {
+        const QString label = i < counts.size() ? counts.at(i).first : QString::number(i);
+        QString name = label;
+        name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_.-]")), QStringLiteral("_"));
+        const QString path = QDir(directory).filePath(name + QStringLiteral(".png"));
+        if (pages.at(i)->grab().save(path)) {
+            ++written;
+            out << path << '\n';
+        } else {
+            out << "msgview: cannot write " << path << '\n';
+        }
+    }
+    // Give the pages back so the module finds them where it put them.
+    for (QWidget *page : pages) {
+        page->hide();
+        stack.addWidget(page);
+    }
+    out << written << " pages written to " << directory << '\n';
+    out.flush();
+    return written == pages.size() ? 0 : 1;
 }

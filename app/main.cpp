@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QLoggingCategory>
+#include <QSettings>
 #include <QStackedWidget>
 #include <QTextStream>
 
@@ -14,10 +15,10 @@
 
 namespace {
 
-bool wantsHeadless(int argc, char **argv)
+bool hasOption(int argc, char **argv, const char *name)
 {
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--headless") == 0)
+        if (std::strcmp(argv[i], name) == 0)
             return true;
     }
     return false;
@@ -31,67 +32,95 @@ bool openInput(QFile &file, const QString &path)
     return file.open(QIODevice::ReadOnly);
 }
 
+int fail(const QString &message)
+{
+    std::fprintf(stderr, "msgview: %s\n", qPrintable(message));
+    return 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     // Headless runs need no display; choose the offscreen platform before Qt starts.
-    if (wantsHeadless(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const bool headless = hasOption(argc, argv, "--headless") || hasOption(argc, argv, "--snapshot");
+    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("MessageView"));
+    QApplication::setApplicationName(QStringLiteral("msgview"));
     // The library's debug lines (page deletion) are for developers; QT_LOGGING_RULES
     // brings them back.
     if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
         QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-    QApplication::setApplicationName(QStringLiteral("msgview"));
 
+    QSettings settings;
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Receiver message console: one live page per message kind."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Receiver message console: one live page per message kind.\n\n"
+        "Connections: --connect serial:/dev/ttyUSB0@115200 | tcp:HOST:PORT | file:PATH[@BYTES_PER_SECOND] | stdin"));
     parser.addHelpOption();
+    const QCommandLineOption connectOption(QStringLiteral("connect"), QStringLiteral("Connect to a receiver at ADDRESS."),
+                                           QStringLiteral("ADDRESS"));
     const QCommandLineOption replayOption(QStringLiteral("replay"),
                                           QStringLiteral("Replay receiver bytes from FILE ('-' reads standard input)."),
                                           QStringLiteral("FILE"));
-    const QCommandLineOption modeOption(QStringLiteral("mode"),
-                                        QStringLiteral("Product mode: 0 NMEA, 1/2 NMEA and maker logs, 4/5 binary, 7 timing."),
-                                        QStringLiteral("N"), QStringLiteral("2"));
+    const QCommandLineOption modeOption(
+        QStringLiteral("mode"), QStringLiteral("Product mode: 0 NMEA, 1/2 NMEA and receiver logs, 4/5 binary, 7 timing."),
+        QStringLiteral("N"), settings.value(QStringLiteral("mode"), 2).toString());
     const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language: EN or CH."),
-                                        QStringLiteral("EN|CH"), QStringLiteral("EN"));
-    const QCommandLineOption headlessOption(QStringLiteral("headless"),
-                                            QStringLiteral("Feed the whole input without a window; print lines per page and throughput."));
+                                        QStringLiteral("EN|CH"), settings.value(QStringLiteral("language"), QStringLiteral("EN")).toString());
     const QCommandLineOption rateOption(QStringLiteral("rate"),
                                         QStringLiteral("Replay pace in bytes per second in the window (0: as fast as possible)."),
                                         QStringLiteral("BYTES"), QStringLiteral("11520"));
-    parser.addOptions({replayOption, modeOption, langOption, headlessOption, rateOption});
+    const QCommandLineOption recordOption(QStringLiteral("record"), QStringLiteral("Record the raw received bytes to FILE."),
+                                          QStringLiteral("FILE"));
+    const QCommandLineOption headlessOption(QStringLiteral("headless"),
+                                            QStringLiteral("Feed the whole input without a window; print lines per page and throughput."));
+    const QCommandLineOption snapshotOption(QStringLiteral("snapshot"),
+                                            QStringLiteral("Replay the input offscreen and write a PNG of every page into DIR."),
+                                            QStringLiteral("DIR"));
+    parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, headlessOption,
+                       snapshotOption});
     parser.process(app);
 
     bool modeOk = false;
     const int mode = parser.value(modeOption).toInt(&modeOk);
-    if (!modeOk) {
-        std::fprintf(stderr, "msgview: --mode needs a number\n");
-        return 2;
-    }
+    if (!modeOk)
+        return fail(QStringLiteral("--mode needs a number"));
     const QString language = parser.value(langOption).toUpper();
 
-    QFile input;
-    if (parser.isSet(replayOption) && !openInput(input, parser.value(replayOption))) {
-        std::fprintf(stderr, "msgview: cannot open %s: %s\n", qPrintable(parser.value(replayOption)),
-                     qPrintable(input.errorString()));
-        return 1;
-    }
-
-    if (parser.isSet(headlessOption)) {
-        if (!input.isOpen() && !openInput(input, QStringLiteral("-")))
-            return 1;
+    if (parser.isSet(headlessOption) || parser.isSet(snapshotOption)) {
+        QFile input;
+        const QString path = parser.isSet(replayOption) ? parser.value(replayOption) : QStringLiteral("-");
+        if (!openInput(input, path))
+            return fail(QStringLiteral("cannot open %1: %2").arg(path, input.errorString()));
         QStackedWidget stack;
         MessageViewModules module(&stack, language);
         module.addItemToTree(mode);
         QTextStream out(stdout);
+        if (parser.isSet(snapshotOption))
+            return runSnapshot(module, stack, input, parser.value(snapshotOption), out);
         return runHeadlessReplay(module, input, out);
     }
 
     MainWindow window(language, mode);
     window.show();
-    if (input.isOpen())
-        window.replay(&input, parser.value(rateOption).toInt());
+    if (parser.isSet(recordOption))
+        window.startRecording(parser.value(recordOption));
+    QString address;
+    if (parser.isSet(connectOption))
+        address = parser.value(connectOption);
+    else if (parser.isSet(replayOption))
+        address = parser.value(replayOption) == QLatin1String("-")
+            ? QStringLiteral("stdin")
+            : QStringLiteral("file:%1@%2").arg(parser.value(replayOption), parser.value(rateOption));
+    if (!address.isEmpty()) {
+        QString error;
+        auto connection = ReceiverConnection::fromAddress(address, &error);
+        if (!connection)
+            return fail(error);
+        window.connectTo(std::move(connection));
+    }
     return app.exec();
 }

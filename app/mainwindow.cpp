@@ -2,56 +2,373 @@
 
 #include "messageviewmodules.h"
 
-#include <QIODevice>
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QComboBox>
+#include <QDateTime>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSerialPortInfo>
+#include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
-namespace {
-constexpr int kReplayTickMs = 50;
+QList<QPair<int, QString>> MainWindow::productModes()
+{
+    return {{0, tr("NMEA")},
+            {1, tr("NMEA and receiver logs")},
+            {2, tr("NMEA and all receiver logs")},
+            {4, tr("Binary messages (4)")},
+            {5, tr("Binary messages (5)")},
+            {7, tr("Timing receiver")}};
 }
 
 MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
     : QMainWindow(parent)
-    , m_stack(new QStackedWidget)
+    , m_language(language)
+    , m_mode(mode)
 {
-    m_module = new MessageViewModules(m_stack, language);
-    auto *splitter = new QSplitter(this);
-    splitter->addWidget(m_module->getTreeWidget());
-    splitter->addWidget(m_stack);
-    splitter->setStretchFactor(1, 1);
-    setCentralWidget(splitter);
+    auto *central = new QWidget(this);
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_splitter = new QSplitter(central);
+    m_stack = new QStackedWidget;
+    layout->addWidget(m_splitter, 1);
+
+    auto *commandRow = new QHBoxLayout;
+    commandRow->setContentsMargins(6, 0, 6, 6);
+    m_commandLine = new QLineEdit(central);
+    m_commandLine->setObjectName(QStringLiteral("commandLine"));
+    m_commandLine->setPlaceholderText(tr("Command to the receiver, e.g. LOG BESTPOSA ONTIME 1 (Enter sends, Up/Down: history)"));
+    m_commandLine->installEventFilter(this);
+    auto *send = new QPushButton(tr("Send"), central);
+    commandRow->addWidget(m_commandLine, 1);
+    commandRow->addWidget(send);
+    layout->addLayout(commandRow);
+    setCentralWidget(central);
+    connect(m_commandLine, &QLineEdit::returnPressed, this, [this] {
+        if (sendCommandText(m_commandLine->text()))
+            m_commandLine->clear();
+    });
+    connect(send, &QPushButton::clicked, m_commandLine, &QLineEdit::returnPressed);
+
+    m_connectionLabel = new QLabel(tr("not connected"));
+    m_rateLabel = new QLabel;
+    m_totalLabel = new QLabel;
+    m_silenceLabel = new QLabel;
+    statusBar()->addWidget(m_connectionLabel, 1);
+    statusBar()->addPermanentWidget(m_rateLabel);
+    statusBar()->addPermanentWidget(m_totalLabel);
+    statusBar()->addPermanentWidget(m_silenceLabel);
+    connect(&m_statusTimer, &QTimer::timeout, this, &MainWindow::updateStatus);
+    m_statusTimer.start(1000);
+
+    createModule();
+    buildMenus();
     resize(1280, 860);
-    setWindowTitle(tr("Receiver messages"));
-    connect(m_module, &MessageViewModules::messageViewTitleShow, this,
-            [this](const QString &title) { setWindowTitle(tr("Receiver messages - %1").arg(title)); });
-    m_module->addItemToTree(mode);
-    connect(&m_replayTimer, &QTimer::timeout, this, &MainWindow::feedNextChunk);
+    updateStatus();
 }
 
 MainWindow::~MainWindow()
 {
-    // The tree was placed in the splitter; give it back to the module, which owns it.
+    m_connection.reset();
+    // The tree sits in the splitter; hand it back to the module, which owns it.
     m_module->getTreeWidget()->setParent(nullptr);
     delete m_module;
 }
 
-void MainWindow::replay(QIODevice *input, int bytesPerSecond)
+void MainWindow::createModule()
 {
-    m_input = input;
-    m_chunkBytes = bytesPerSecond > 0 ? qMax(1, bytesPerSecond * kReplayTickMs / 1000) : 64 * 1024;
-    m_replayTimer.start(bytesPerSecond > 0 ? kReplayTickMs : 0);
+    if (m_module) {
+        m_module->getTreeWidget()->setParent(nullptr);
+        delete m_module;
+    }
+    m_module = new MessageViewModules(m_stack, m_language);
+    m_splitter->insertWidget(0, m_module->getTreeWidget());
+    if (m_splitter->indexOf(m_stack) < 0)
+        m_splitter->addWidget(m_stack);
+    m_splitter->setStretchFactor(1, 1);
+    setWindowTitle(tr("Receiver messages"));
+    connect(m_module, &MessageViewModules::messageViewTitleShow, this,
+            [this](const QString &title) { setWindowTitle(tr("Receiver messages - %1").arg(title)); });
+    m_module->addItemToTree(m_mode);
+    routePageCommands();
 }
 
-void MainWindow::feedNextChunk()
+void MainWindow::buildMenus()
 {
-    const QByteArray chunk = m_input ? m_input->read(m_chunkBytes) : QByteArray();
-    if (chunk.isEmpty()) {
-        m_replayTimer.stop();
-        statusBar()->showMessage(tr("Replay finished: %1 lines").arg(m_module->lineCount()));
+    QMenu *connectionMenu = menuBar()->addMenu(tr("&Connection"));
+    connectionMenu->addAction(tr("&Serial port..."), this, &MainWindow::chooseSerialPort);
+    connectionMenu->addAction(tr("&TCP..."), this, &MainWindow::chooseTcpPeer);
+    connectionMenu->addAction(tr("&Replay file..."), this, &MainWindow::chooseReplayFile);
+    connectionMenu->addAction(tr("Standard &input"), this, [this] { connectTo(std::make_unique<StdinConnection>()); });
+    connectionMenu->addSeparator();
+    m_pauseAction = connectionMenu->addAction(tr("&Pause replay"));
+    m_pauseAction->setCheckable(true);
+    connect(m_pauseAction, &QAction::toggled, this, [this](bool paused) {
+        if (m_connection)
+            m_connection->setPaused(paused);
+    });
+    connectionMenu->addAction(tr("Restart replay"), this, [this] {
+        if (m_connection && m_connection->canPause())
+            m_connection->restart();
+    });
+    connectionMenu->addAction(tr("&Disconnect"), this, &MainWindow::disconnectReceiver);
+    connectionMenu->addSeparator();
+    m_recordAction = connectionMenu->addAction(tr("Record raw bytes"));
+    m_recordAction->setCheckable(true);
+    connect(m_recordAction, &QAction::triggered, this, [this](bool on) {
+        if (on)
+            startRecording();
+        else
+            stopRecording();
+    });
+    connectionMenu->addSeparator();
+    connectionMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+
+    QMenu *modeMenu = menuBar()->addMenu(tr("&Mode"));
+    m_modeGroup = new QActionGroup(this);
+    for (const auto &mode : productModes()) {
+        QAction *action = modeMenu->addAction(tr("%1 - %2").arg(mode.first).arg(mode.second));
+        action->setCheckable(true);
+        action->setChecked(mode.first == m_mode);
+        action->setData(mode.first);
+        m_modeGroup->addAction(action);
+    }
+    connect(m_modeGroup, &QActionGroup::triggered, this, [this](QAction *action) { setMode(action->data().toInt()); });
+
+    QMenu *languageMenu = menuBar()->addMenu(tr("&Language"));
+    m_languageGroup = new QActionGroup(this);
+    for (const auto &language : {qMakePair(QStringLiteral("EN"), tr("English")), qMakePair(QStringLiteral("CH"), tr("Chinese"))}) {
+        QAction *action = languageMenu->addAction(language.second);
+        action->setCheckable(true);
+        action->setChecked(language.first == m_language);
+        action->setData(language.first);
+        m_languageGroup->addAction(action);
+    }
+    connect(m_languageGroup, &QActionGroup::triggered, this,
+            [this](QAction *action) { setLanguage(action->data().toString()); });
+
+    QMenu *viewMenu = menuBar()->addMenu(tr("&View"));
+    viewMenu->addAction(tr("Clear received marks"), this, [this] { m_module->setTreeForeground(); });
+}
+
+void MainWindow::setMode(int mode)
+{
+    if (mode == m_mode)
+        return;
+    m_mode = mode;
+    m_module->addItemToTree(mode);
+    routePageCommands();
+    QSettings().setValue(QStringLiteral("mode"), mode);
+    for (QAction *action : m_modeGroup->actions())
+        action->setChecked(action->data().toInt() == mode);
+}
+
+void MainWindow::setLanguage(const QString &language)
+{
+    if (language == m_language)
+        return;
+    // The module installs its translator when it is made; a new language needs a new one.
+    m_language = language;
+    createModule();
+    QSettings().setValue(QStringLiteral("language"), language);
+    for (QAction *action : m_languageGroup->actions())
+        action->setChecked(action->data().toString() == language);
+}
+
+void MainWindow::routePageCommands()
+{
+    for (int i = 0; i < m_stack->count(); ++i) {
+        QWidget *page = m_stack->widget(i);
+        if (page->metaObject()->indexOfSignal("sendCommand(int,QString,bool)") >= 0)
+            connect(page, SIGNAL(sendCommand(int,QString,bool)), this, SLOT(onPageCommand(int,QString,bool)),
+                    Qt::UniqueConnection);
+    }
+}
+
+void MainWindow::connectTo(std::unique_ptr<ReceiverConnection> connection)
+{
+    disconnectReceiver();
+    m_connection = std::move(connection);
+    connect(m_connection.get(), &ReceiverConnection::dataReceived, this, &MainWindow::onData);
+    connect(m_connection.get(), &ReceiverConnection::stateChanged, this, &MainWindow::onConnectionState);
+    m_pauseAction->setChecked(false);
+    m_connection->open();
+}
+
+void MainWindow::disconnectReceiver()
+{
+    if (!m_connection)
+        return;
+    m_connection->close();
+    m_connection.reset();
+}
+
+void MainWindow::onData(const QByteArray &bytes)
+{
+    m_totalBytes += quint64(bytes.size());
+    m_sinceData.start();
+    if (m_recording.isOpen())
+        m_recording.write(bytes);
+    m_module->onUpdateBuffer(bytes);
+}
+
+void MainWindow::onConnectionState(ReceiverConnection::State state, const QString &text)
+{
+    m_connectionLabel->setText(text);
+    if (state == ReceiverConnection::State::Failed || state == ReceiverConnection::State::Retrying)
+        statusBar()->showMessage(text, 5000);
+}
+
+bool MainWindow::sendCommandText(const QString &command)
+{
+    const QString trimmed = command.trimmed();
+    if (trimmed.isEmpty())
+        return false;
+    if (!m_connection || !m_connection->canWrite()) {
+        statusBar()->showMessage(tr("No receiver connection to send \"%1\" to").arg(trimmed), 5000);
+        return false;
+    }
+    m_connection->write(trimmed.toLatin1() + "\r\n");
+    if (m_history.isEmpty() || m_history.last() != trimmed)
+        m_history << trimmed;
+    m_historyIndex = m_history.size();
+    statusBar()->showMessage(tr("Sent: %1").arg(trimmed), 3000);
+    return true;
+}
+
+void MainWindow::onPageCommand(int, QString cmd, bool isHex)
+{
+    if (!m_connection || !m_connection->canWrite())
+        return;
+    m_connection->write(isHex ? QByteArray::fromHex(cmd.toLatin1()) : cmd.toLatin1() + "\r\n");
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_commandLine && event->type() == QEvent::KeyPress && !m_history.isEmpty()) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            m_historyIndex = qBound(0, m_historyIndex + (key == Qt::Key_Up ? -1 : 1), m_history.size());
+            m_commandLine->setText(m_history.value(m_historyIndex));
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool MainWindow::startRecording(const QString &path)
+{
+    stopRecording();
+    const QString name = path.isEmpty()
+        ? QDir(QSettings().value(QStringLiteral("recordingDir"), QDir::currentPath()).toString())
+              .filePath(QStringLiteral("capture-%1.log").arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"))))
+        : path;
+    m_recording.setFileName(name);
+    if (!m_recording.open(QIODevice::WriteOnly)) {
+        statusBar()->showMessage(tr("Cannot record to %1: %2").arg(name, m_recording.errorString()), 8000);
+        m_recordAction->setChecked(false);
+        return false;
+    }
+    m_recordAction->setChecked(true);
+    statusBar()->showMessage(tr("Recording to %1").arg(name), 5000);
+    return true;
+}
+
+void MainWindow::stopRecording()
+{
+    if (!m_recording.isOpen())
+        return;
+    m_recording.close();
+    m_recordAction->setChecked(false);
+    statusBar()->showMessage(tr("Recorded %1").arg(m_recording.fileName()), 5000);
+}
+
+void MainWindow::updateStatus()
+{
+    const quint64 lines = m_module->lineCount();
+    m_rateLabel->setText(tr("%1 B/s  %2 lines/s").arg(m_totalBytes - m_bytesAtLastTick).arg(lines - m_linesAtLastTick));
+    m_totalLabel->setText(tr("total %1 bytes").arg(m_totalBytes));
+    m_silenceLabel->setText(m_sinceData.isValid() ? tr("last data %1 s ago").arg(m_sinceData.elapsed() / 1000)
+                                                  : tr("no data yet"));
+    m_bytesAtLastTick = m_totalBytes;
+    m_linesAtLastTick = lines;
+}
+
+void MainWindow::chooseSerialPort()
+{
+    QDialog dialog(this);
+    dialog.setWindowTitle(tr("Serial port"));
+    auto *form = new QFormLayout(&dialog);
+    auto *ports = new QComboBox(&dialog);
+    ports->setEditable(true);
+    for (const QSerialPortInfo &info : QSerialPortInfo::availablePorts())
+        ports->addItem(info.systemLocation() + (info.description().isEmpty() ? QString() : QStringLiteral("  (%1)").arg(info.description())),
+                       info.systemLocation());
+    QSettings settings;
+    ports->setCurrentText(settings.value(QStringLiteral("serialDevice")).toString());
+    auto *baud = new QComboBox(&dialog);
+    baud->setEditable(true);
+    for (int rate : {9600, 19200, 38400, 57600, 115200, 230400, 460800, 921600})
+        baud->addItem(QString::number(rate));
+    baud->setCurrentText(settings.value(QStringLiteral("serialBaud"), 115200).toString());
+    form->addRow(tr("Device"), ports);
+    form->addRow(tr("Baud (8N1)"), baud);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString device = ports->currentData().isValid() && ports->currentText().startsWith(ports->currentData().toString())
+        ? ports->currentData().toString()
+        : ports->currentText().trimmed();
+    settings.setValue(QStringLiteral("serialDevice"), device);
+    settings.setValue(QStringLiteral("serialBaud"), baud->currentText().toInt());
+    connectTo(std::make_unique<SerialConnection>(device, baud->currentText().toInt()));
+}
+
+void MainWindow::chooseTcpPeer()
+{
+    QSettings settings;
+    bool ok = false;
+    const QString address = QInputDialog::getText(this, tr("TCP"), tr("Receiver or stream server (host:port)"),
+                                                  QLineEdit::Normal, settings.value(QStringLiteral("tcpPeer")).toString(), &ok);
+    if (!ok)
+        return;
+    QString error;
+    auto connection = ReceiverConnection::fromAddress(QStringLiteral("tcp:") + address.trimmed(), &error);
+    if (!connection) {
+        statusBar()->showMessage(error, 8000);
         return;
     }
-    m_module->onUpdateBuffer(chunk);
-    statusBar()->showMessage(tr("%1 lines").arg(m_module->lineCount()));
+    settings.setValue(QStringLiteral("tcpPeer"), address.trimmed());
+    connectTo(std::move(connection));
+}
+
+void MainWindow::chooseReplayFile()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Replay a recorded session"));
+    if (path.isEmpty())
+        return;
+    bool ok = false;
+    const int rate = QInputDialog::getInt(this, tr("Replay pace"), tr("Bytes per second (0: as fast as possible)"),
+                                          11520, 0, 100000000, 1, &ok);
+    if (ok)
+        connectTo(std::make_unique<FileReplayConnection>(path, rate));
 }

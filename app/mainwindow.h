@@ -1,13 +1,23 @@
 #pragma once
 
+#include "receiverconnection.h"
+
+#include <QElapsedTimer>
+#include <QFile>
 #include <QMainWindow>
+#include <QStringList>
 #include <QTimer>
+#include <memory>
 
 class MessageViewModules;
-class QIODevice;
+class QActionGroup;
+class QLabel;
+class QLineEdit;
 class QStackedWidget;
+class QSplitter;
 
-// The console window: the module's message tree beside the stacked page area.
+// The receiver console: the message tree beside the page area, a connection to the
+// receiver, recording, a command line to the receiver and a live status bar.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -16,15 +26,57 @@ public:
     ~MainWindow() override;
 
     MessageViewModules *module() const { return m_module; }
-    // Replays a device at about `bytesPerSecond` (0: as fast as the event loop allows).
-    void replay(QIODevice *input, int bytesPerSecond);
+    QStackedWidget *stack() const { return m_stack; }
+    ReceiverConnection *connection() const { return m_connection.get(); }
+    int mode() const { return m_mode; }
+
+    // Takes over a connection, opens it and shows its state.
+    void connectTo(std::unique_ptr<ReceiverConnection> connection);
+    void disconnectReceiver();
+    void setMode(int mode);
+    void setLanguage(const QString &language);
+    bool startRecording(const QString &path = QString());
+    void stopRecording();
+    QString recordingPath() const { return m_recording.fileName(); }
+    // Sends a typed command with "\r\n"; false (and a status message) without a link.
+    bool sendCommandText(const QString &command);
+
+    static QList<QPair<int, QString>> productModes();
 
 private:
-    void feedNextChunk();
+    void createModule();
+    void buildMenus();
+    void onData(const QByteArray &bytes);
+    void onConnectionState(ReceiverConnection::State state, const QString &text);
+    void onPageCommand(int index, QString cmd, bool isHex);
+    void routePageCommands();
+    void updateStatus();
+    void chooseSerialPort();
+    void chooseTcpPeer();
+    void chooseReplayFile();
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
+    QString m_language;
+    int m_mode;
+    QSplitter *m_splitter = nullptr;
     QStackedWidget *m_stack = nullptr;
     MessageViewModules *m_module = nullptr;
-    QIODevice *m_input = nullptr;
-    QTimer m_replayTimer;
-    int m_chunkBytes = 0;
+    std::unique_ptr<ReceiverConnection> m_connection;
+    QFile m_recording;
+    QActionGroup *m_modeGroup = nullptr;
+    QActionGroup *m_languageGroup = nullptr;
+    QAction *m_pauseAction = nullptr;
+    QAction *m_recordAction = nullptr;
+    QLineEdit *m_commandLine = nullptr;
+    QStringList m_history;
+    int m_historyIndex = 0;
+    QLabel *m_connectionLabel = nullptr;
+    QLabel *m_rateLabel = nullptr;
+    QLabel *m_totalLabel = nullptr;
+    QLabel *m_silenceLabel = nullptr;
+    QTimer m_statusTimer;
+    QElapsedTimer m_sinceData;
+    quint64 m_totalBytes = 0;
+    quint64 m_bytesAtLastTick = 0;
+    quint64 m_linesAtLastTick = 0;
 };

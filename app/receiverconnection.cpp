@@ -96,8 +96,9 @@ SerialConnection::SerialConnection(QString device, int baud)
     connect(&m_retry, &QTimer::timeout, this, &SerialConnection::open);
     connect(m_port, &QSerialPort::readyRead, this, [this] { emit dataReceived(m_port->readAll()); });
     connect(m_port, &QSerialPort::errorOccurred, this, [this](QSerialPort::SerialPortError error) {
-        // Only a lost device ends an open link; transient errors are reported by the driver.
-        if (error == QSerialPort::ResourceError && m_port->isOpen())
+        // A read or resource error on an open port means the device went away (an
+        // unplugged adapter, a closed pseudo-terminal); anything else is transient.
+        if ((error == QSerialPort::ResourceError || error == QSerialPort::ReadError) && m_port->isOpen())
             fail(tr("device lost (%1)").arg(m_port->errorString()));
     });
 }

@@ -1,0 +1,272 @@
+#include "mainwindow.h"
+#include "messageviewmodules.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTableWidget>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+QByteArray demoBytes()
+{
+    QFile file(DEMO_SAMPLE);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QTreeWidgetItem *findItem(MainWindow &window, const QString &label)
+{
+    const auto items = window.module()->getTreeWidget()->findItems(label, Qt::MatchExactly | Qt::MatchRecursive);
+    for (QTreeWidgetItem *item : items) {
+        if (item->parent())
+            return item;
+    }
+    return nullptr;
+}
+
+QString valueOnCurrentPage(MainWindow &window, int row)
+{
+    auto *table = window.stack()->currentWidget()->findChild<QTableWidget *>();
+    return table && table->item(row, 1) ? table->item(row, 1)->text() : QString();
+}
+
+void click(MainWindow &window, const QString &label)
+{
+    QTreeWidgetItem *item = findItem(window, label);
+    QVERIFY2(item, qPrintable(label));
+    emit window.module()->getTreeWidget()->itemClicked(item, 0);
+}
+
+bool waitForState(ReceiverConnection *connection, ReceiverConnection::State state, int timeoutMs = 10000)
+{
+    return QTest::qWaitFor([&] { return connection && connection->state() == state; }, timeoutMs);
+}
+
+} // namespace
+
+class ConsoleTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void treeClicksSetTitleAndModesRebuild();
+    void modeAndLanguageAreRemembered();
+    void tcpReceivesReconnectsAndSendsCommands();
+    void serialThroughPseudoTerminalSurvivesDeviceLoss();
+    void recordingReplaysToTheSamePages();
+    void badAddressesAndMissingFilesFailClearly();
+    void snapshotWritesOnePngPerPage();
+};
+
+void ConsoleTest::init()
+{
+    QSettings().clear();
+}
+
+void ConsoleTest::treeClicksSetTitleAndModesRebuild()
+{
+    MainWindow window("EN", 2);
+    window.show();
+    click(window, "Psrpos");
+    QVERIFY(window.windowTitle().endsWith("Psrpos"));
+    QCOMPARE(findItem(window, "Psrpos")->treeWidget(), window.module()->getTreeWidget());
+    const int mode2Pages = window.stack()->count();
+    window.setMode(1);
+    QVERIFY(window.stack()->count() < mode2Pages);
+    QVERIFY(!findItem(window, "Psrpos"));
+    window.setMode(0);
+    QVERIFY(!findItem(window, "Bestpos"));
+}
+
+void ConsoleTest::modeAndLanguageAreRemembered()
+{
+    {
+        MainWindow window("EN", 2);
+        window.setMode(7);
+        window.setLanguage("CH");
+        QCOMPARE(window.stack()->count() >= 0, true);
+        QVERIFY(window.module()->getTreeWidget()->parent());
+    }
+    QSettings settings;
+    QCOMPARE(settings.value("mode").toInt(), 7);
+    QCOMPARE(settings.value("language").toString(), QString("CH"));
+}
+
+void ConsoleTest::tcpReceivesReconnectsAndSendsCommands()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    MainWindow window("EN", 2);
+    window.show();
+    click(window, "Bestpos");
+    QString error;
+    window.connectTo(ReceiverConnection::fromAddress(QString("tcp:127.0.0.1:%1").arg(server.serverPort()), &error));
+    QTRY_VERIFY_WITH_TIMEOUT(server.hasPendingConnections(), 5000);
+    QTcpSocket *peer = server.nextPendingConnection();
+    QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Open));
+
+    const QByteArray demo = demoBytes();
+    const int firstLineEnd = demo.indexOf("\r\n") + 2;
+    peer->write(demo.left(firstLineEnd));
+    peer->flush();
+    QTRY_COMPARE(valueOnCurrentPage(window, 0), QString("SOL_COMPUTED"));
+
+    // Commands typed in the console reach the receiver with "\r\n".
+    QVERIFY(window.sendCommandText("  LOG BESTPOSA ONTIME 1 "));
+    QTRY_VERIFY(peer->bytesAvailable() > 0 || peer->waitForReadyRead(100));
+    QCOMPARE(peer->readAll(), QByteArray("LOG BESTPOSA ONTIME 1\r\n"));
+
+    // The peer goes away with half a line sent; the console retries and, once back,
+    // still completes nothing stale but takes the next full line.
+    peer->write(demo.mid(firstLineEnd, 10));
+    peer->flush();
+    peer->disconnectFromHost();
+    QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Retrying));
+    QVERIFY(window.connection()->stateText().contains("peer closed"));
+    QTRY_VERIFY_WITH_TIMEOUT(server.hasPendingConnections(), 10000);
+    QTcpSocket *again = server.nextPendingConnection();
+    QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Open));
+    const QByteArray tdif = "#TDIFPOSA,COM1,0,72.0,FINESTEERING,2330,1.000,02000000,b1f6,16248;X";
+    again->write(demo.mid(firstLineEnd + 10));
+    again->flush();
+    QTRY_VERIFY(window.module()->lineCount() >= quint64(demo.count("\r\n")));
+    Q_UNUSED(tdif);
+
+    window.disconnectReceiver();
+    QVERIFY(!window.sendCommandText("LOG VERSION"));
+}
+
+void ConsoleTest::serialThroughPseudoTerminalSurvivesDeviceLoss()
+{
+    if (QStandardPaths::findExecutable("socat").isEmpty())
+        QSKIP("socat is not installed");
+    QTemporaryDir dir;
+    const QString receiverEnd = dir.filePath("receiver"), consoleEnd = dir.filePath("console");
+    auto startLink = [&](QProcess &socat) {
+        socat.start("socat", {QString("pty,raw,echo=0,link=%1").arg(receiverEnd),
+                              QString("pty,raw,echo=0,link=%1").arg(consoleEnd)});
+        return QTest::qWaitFor([&] { return QFile::exists(receiverEnd) && QFile::exists(consoleEnd); }, 5000);
+    };
+    QProcess socat;
+    QVERIFY(startLink(socat));
+
+    MainWindow window("EN", 2);
+    window.show();
+    click(window, "Bestpos");
+    QString error;
+    window.connectTo(ReceiverConnection::fromAddress("serial:" + consoleEnd + "@115200", &error));
+    QVERIFY2(waitForState(window.connection(), ReceiverConnection::State::Open), qPrintable(window.connection()->stateText()));
+
+    QFile receiver(receiverEnd);
+    QVERIFY(receiver.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    const QByteArray demo = demoBytes();
+    receiver.write(demo.left(demo.indexOf("\r\n") + 2));
+    QTRY_COMPARE(valueOnCurrentPage(window, 0), QString("SOL_COMPUTED"));
+    receiver.close();
+
+    // The device disappears and comes back: the console notices and reconnects.
+    socat.terminate();
+    socat.waitForFinished();
+    QVERIFY2(waitForState(window.connection(), ReceiverConnection::State::Retrying),
+             qPrintable(window.connection()->stateText()));
+    QProcess socatAgain;
+    QVERIFY(startLink(socatAgain));
+    QVERIFY2(waitForState(window.connection(), ReceiverConnection::State::Open, 20000),
+             qPrintable(window.connection()->stateText()));
+    QFile receiverAgain(receiverEnd);
+    QVERIFY(receiverAgain.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    const quint64 before = window.module()->lineCount();
+    receiverAgain.write(demo.left(demo.indexOf("\r\n") + 2));
+    QTRY_COMPARE(window.module()->lineCount(), before + 1);
+    window.disconnectReceiver();
+    socatAgain.terminate();
+    socatAgain.waitForFinished();
+}
+
+void ConsoleTest::recordingReplaysToTheSamePages()
+{
+    QTemporaryDir dir;
+    const QString capture = dir.filePath("capture.log");
+    QStringList live;
+    {
+        MainWindow window("EN", 2);
+        window.show();
+        click(window, "Tdifpos");
+        QVERIFY(window.startRecording(capture));
+        QTemporaryFile source;
+        QVERIFY(source.open());
+        source.write(demoBytes());
+        source.close();
+        window.connectTo(std::make_unique<FileReplayConnection>(source.fileName(), 0));
+        QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Finished));
+        window.stopRecording();
+        for (int row = 0; row < 21; ++row)
+            live << valueOnCurrentPage(window, row);
+    }
+    QCOMPARE(QFileInfo(capture).size(), qint64(demoBytes().size()));
+    MainWindow replay("EN", 2);
+    replay.show();
+    click(replay, "Tdifpos");
+    replay.connectTo(std::make_unique<FileReplayConnection>(capture, 0));
+    QVERIFY(waitForState(replay.connection(), ReceiverConnection::State::Finished));
+    QStringList replayed;
+    for (int row = 0; row < 21; ++row)
+        replayed << valueOnCurrentPage(replay, row);
+    QCOMPARE(replayed, live);
+    QVERIFY(!live.first().isEmpty());
+}
+
+void ConsoleTest::badAddressesAndMissingFilesFailClearly()
+{
+    QString error;
+    for (const char *address : {"serial:", "tcp:nohost", "tcp:host:99999", "file:", "bogus:1"}) {
+        QVERIFY2(!ReceiverConnection::fromAddress(address, &error), address);
+        QVERIFY(!error.isEmpty());
+    }
+    MainWindow window("EN", 0);
+    window.connectTo(ReceiverConnection::fromAddress("file:/nonexistent/capture.log", &error));
+    QCOMPARE(window.connection()->state(), ReceiverConnection::State::Failed);
+    QVERIFY(window.connection()->stateText().contains("cannot open"));
+    window.connectTo(ReceiverConnection::fromAddress("serial:/dev/does-not-exist@9600", &error));
+    QCOMPARE(window.connection()->state(), ReceiverConnection::State::Retrying);
+    QVERIFY(!window.connection()->stateText().isEmpty());
+    window.connectTo(ReceiverConnection::fromAddress("tcp:127.0.0.1:1", &error));
+    QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Retrying));
+    QVERIFY(window.connection()->stateText().contains("refused", Qt::CaseInsensitive));
+}
+
+void ConsoleTest::snapshotWritesOnePngPerPage()
+{
+    QTemporaryDir dir;
+    QProcess msgview;
+    msgview.start(MSGVIEW_BINARY, {"--snapshot", dir.path(), "--mode", "2", "--replay", DEMO_SAMPLE});
+    QVERIFY(msgview.waitForFinished(60000));
+    QCOMPARE(msgview.exitCode(), 0);
+    QProcess headless;
+    headless.start(MSGVIEW_BINARY, {"--headless", "--mode", "2", "--replay", DEMO_SAMPLE});
+    QVERIFY(headless.waitForFinished(60000));
+    const QString summary = QString::fromUtf8(headless.readAllStandardOutput());
+    QVERIFY(summary.contains("total lines"));
+    int pages = 0;
+    for (const QString &line : summary.split('\n')) {
+        if (!line.isEmpty() && !line.startsWith("page") && !line.startsWith("total") && !line.startsWith("bytes"))
+            ++pages;
+    }
+    const QFileInfoList pngs = QDir(dir.path()).entryInfoList({"*.png"});
+    QCOMPARE(pngs.size(), pages);
+    for (const QFileInfo &png : pngs) {
+        QImage image(png.filePath());
+        QVERIFY2(!image.isNull() && image.width() > 100, qPrintable(png.fileName()));
+    }
+    QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
+}
+
+QTEST_MAIN(ConsoleTest)
+#include "tst_console.moc"

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "fieldtablepage.h"
+
+class QEvent;
+
+// $BDSTIME: BDS time, its relation to GPS time and the leap second.
+class BDT : public FieldTablePage
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE BDT(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+
+    // The eight rows of a satellite-system time sentence as this page shows them;
+    // the Galileo and GLONASS time pages adjust them, the GPS time page shortens them.
+    static QVector<FieldRow> systemTimeRows();
+    // The same rows with the descriptions of the first ("TimeQuality") and last
+    // ("lsfFlag") rows interchanged. The GPS, Galileo and GLONASS time pages show them
+    // so on purpose; keep the crossing.
+    static QVector<FieldRow> interchangedSystemTimeRows();
+
+protected:
+    // This page alone follows the application's language-change event.
+    void changeEvent(QEvent *event) override;
+
+private:
+    static const FieldTableSpec &pageSpec();
+};

@@ -11,12 +11,9 @@ class BDT : public FieldTablePage
 public:
     Q_INVOKABLE BDT(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
 
-    // The eight rows of a satellite-system time sentence as this page shows them;
-    // the Galileo and GLONASS time pages adjust them, the GPS time page shortens them.
-    static QVector<FieldRow> systemTimeRows();
-    // The same rows with the descriptions of the first ("TimeQuality") and last
+    // This page's rows with the descriptions of the first ("TimeQuality") and last
     // ("lsfFlag") rows interchanged. The GPS, Galileo and GLONASS time pages show them
-    // so on purpose; keep the crossing.
+    // so on purpose (keep the crossing); they adjust or shorten the rest.
     static QVector<FieldRow> interchangedSystemTimeRows();
 
 protected:
@@ -24,5 +21,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    // The eight rows of a satellite-system time sentence.
+    static QVector<FieldRow> systemTimeRows();
     static const FieldTableSpec &pageSpec();
 };

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "fieldtablepage.h"
+
+// $PPSINFO: 1PPS phase error and the receiver clock.
+class PPSTable : public FieldTablePage
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE PPSTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+
+private:
+    static const FieldTableSpec &pageSpec();
+};

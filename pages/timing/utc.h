@@ -1,0 +1,14 @@
+#pragma once
+
+#include "fieldtablepage.h"
+
+// $UTCTIME: the receiver's broken-down UTC time.
+class UTC : public FieldTablePage
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE UTC(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+
+private:
+    static const FieldTableSpec &pageSpec();
+};

@@ -138,6 +138,7 @@ void MessageViewModules::clearMesWidgetList()
 {
     m_lineBuffer.clear();
     m_scanFrom = 0;
+    m_droppingLongLine = false;
     m_korvaneAsciiItem->setHidden(true);
     m_timeItem->setHidden(true);
     m_korvaneBinaryItem->setHidden(true);
@@ -265,7 +266,7 @@ void MessageViewModules::onUpdateBuffer(QByteArray data)
         }
         const int crAt = int(cr - bytes);
         if (crAt + 1 >= size) {
-            searchFrom = crAt; // a lone '\r' at the end: look at it again with more bytes
+            searchFrom = crAt; // a '\r' at the end: look at it again with the next bytes
             break;
         }
         if (bytes[crAt + 1] != '\n') {
@@ -273,9 +274,19 @@ void MessageViewModules::onUpdateBuffer(QByteArray data)
             continue;
         }
         const int lineEnd = crAt + 2;
-        offerLine(QString::fromUtf8(bytes + lineStart, lineEnd - lineStart));
+        // However the stream was chunked, a line longer than the limit is never offered.
+        if (m_droppingLongLine || crAt - lineStart > maxLineBytes)
+            m_droppingLongLine = false;
+        else
+            offerLine(QString::fromUtf8(bytes + lineStart, lineEnd - lineStart));
         lineStart = lineEnd;
         searchFrom = lineEnd;
+    }
+    // Bound the partial line: past the limit it is dropped, and so is the rest of it up
+    // to its line end; a trailing '\r' is kept as it may begin that line end.
+    if (searchFrom - lineStart > maxLineBytes) {
+        m_droppingLongLine = true;
+        lineStart = searchFrom;
     }
     m_lineBuffer.remove(0, lineStart);
     m_scanFrom = searchFrom - lineStart;

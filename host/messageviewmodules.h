@@ -38,7 +38,14 @@ public:
 
     // Lines taken per page, in page order, labelled by tree text; and all lines cut.
     QList<QPair<QString, quint64>> acceptedLineCounts() const;
+    // The longest line (without its "\r\n") offered to the pages in text modes; real
+    // logs stay far below it. A longer one (binary output while a text mode is selected,
+    // a lost line end) is dropped whole, up to and including its "\r\n", however the
+    // stream is chunked, and the buffer never holds much more than this.
+    static constexpr int maxLineBytes = 256 * 1024;
     quint64 lineCount() const { return m_lineCount; }
+    // Bytes of an unfinished line held for the next chunk.
+    int bufferedBytes() const { return m_lineBuffer.size(); }
 
 signals:
     void messageViewTitleShow(QString nTitle);
@@ -75,6 +82,8 @@ private:
     // Where the next search for "\r\n" starts, so bytes already scanned are never
     // scanned again however the stream is chunked.
     int m_scanFrom = 0;
+    // Set while the rest of an over-long line is being dropped up to its "\r\n".
+    bool m_droppingLongLine = false;
     QVector<quint64> m_acceptedCounts;
     quint64 m_lineCount = 0;
 };

@@ -55,6 +55,7 @@ private slots:
     void lineSplitAtEveryByteIsTakenOnce();
     void manyLinesInOneChunkAndStrayLineEnds();
     void unmatchedLinesAreDiscarded();
+    void overlongLinesAreDroppedWhole();
     void returnCodes_data();
     void returnCodes();
     void sameModeKeepsPagesAndBuffer();
@@ -124,6 +125,39 @@ void ModuleTest::unmatchedLinesAreDiscarded()
     for (const auto &count : h.module().acceptedLineCounts())
         taken += count.second;
     QCOMPARE(taken, quint64(0));
+}
+
+void ModuleTest::overlongLinesAreDroppedWhole()
+{
+    ModuleHarness h(2);
+    h.show("Bestpos");
+    // A long but legal line (a wide field) is still cut and taken.
+    const QByteArray wide(MessageViewModules::maxLineBytes - 1000, 'w');
+    h.feed(bestpos(wide));
+    QCOMPARE(h.cell("Bestpos", 2, 1).size(), wide.size());
+
+    // A receiver switched to binary output while a text mode is selected: the buffer
+    // stays bounded, and the stream recovers at the next line end.
+    const QByteArray binary(64 * 1024, '\x5a');
+    for (int i = 0; i < 64; ++i) {
+        h.feed(binary);
+        QVERIFY(h.module().bufferedBytes() <= MessageViewModules::maxLineBytes + binary.size());
+    }
+    const quint64 linesBefore = h.module().lineCount();
+    // The over-long line ends with what looks like a valid line: it is dropped whole.
+    h.feed(bestpos("tail") + bestpos("next"));
+    QCOMPARE(h.module().lineCount(), linesBefore + 1);
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString("next"));
+    QCOMPARE(h.module().bufferedBytes(), 0);
+
+    // The same over-long line arriving in one chunk is dropped too.
+    h.feed(bestpos(QByteArray(MessageViewModules::maxLineBytes, 'w')) + bestpos("one chunk"));
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString("one chunk"));
+
+    // A '\r' right at the limit still pairs with a '\n' in the next chunk.
+    h.feed(QByteArray(MessageViewModules::maxLineBytes + 10, 'x') + "\r");
+    h.feed("\n" + bestpos("after"));
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString("after"));
 }
 
 void ModuleTest::returnCodes_data()

@@ -176,6 +176,8 @@ bool GSVTable::parse(QString line)
     if (signalId == 0 && m_fields.at(2).toInt() == 1)
         store.count = 0;
     storeGroups(store, signalId, fieldCount);
+    // The sweep runs while anything is listed; restarting it on every sentence
+    // would postpone it for ever on a live stream.
     if (!m_staleTimer->isActive())
         m_staleTimer->start();
     rebuildTable();

@@ -1,6 +1,7 @@
 #include "messageviewmetaobjctx.h"
 
 #include "bestpostable.h"
+#include "gnhprtable.h"
 #include "matchedpostable.h"
 #include "matchedpostableh.h"
 #include "psrpostable.h"
@@ -10,6 +11,7 @@
 
 // The maker's ASCII logs under "Korvane". Filter 2: only in mode 2.
 static const MessageViewMetaObjCtx kKorvaneAscii[] = {
+    {GnhprTable::staticMetaObject, QStringLiteral("HPR"), 0},
     {BestposTable::staticMetaObject, QStringLiteral("Bestpos"), 0},
     {MatchedposTable::staticMetaObject, QStringLiteral("Matchpos"), 0},
     {MatchedposTableh::staticMetaObject, QStringLiteral("Matchposh"), 0},

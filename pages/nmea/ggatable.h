@@ -1,0 +1,14 @@
+#pragma once
+
+#include "fieldtablepage.h"
+
+// GGA: the fix data sentence, and its high-rate GGAH variant.
+class GGATable : public FieldTablePage
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE GGATable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+
+private:
+    static const FieldTableSpec &pageSpec();
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "fieldtext.h"
+#include "msgbasewidget.h"
+
+#include <array>
+#include <memory>
+
+class QTimer;
+
+// GSV: the satellites in view of every system in one list. A report is spread over
+// several sentences of up to four satellites, and each system's talker reports in
+// turn, so unlike the other NMEA pages this one keeps state between lines.
+class GSVTable : public MsgBaseWidget
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE GSVTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+    ~GSVTable() override;
+
+    bool parse(QString line) override;
+    bool parseRawData(QByteArray) override { return false; }
+
+public slots:
+    void onRetranslateUI() override;
+    // Drops every signal no sentence has reported since the previous call, and a
+    // satellite with it once none of its signals is left.
+    void clearTimeOut();
+
+private:
+    static constexpr int kSystemCount = 6;
+    static constexpr int kMaxSatellites = 50;
+    static constexpr int kMaxSignals = 5;
+
+    struct Signal
+    {
+        int id;
+        double cn0; // DBL_MAX: tracked, no measurement
+        bool reported;
+    };
+    struct Satellite
+    {
+        uint prn;
+        double elevation; // -1.0 when the sentence left it empty
+        double azimuth;
+        std::array<Signal, kMaxSignals> signalSlots;
+        int signalCount;
+    };
+    struct SystemStore
+    {
+        std::array<Satellite, kMaxSatellites> satellites;
+        int count = 0;
+    };
+    struct Form;
+
+    void storeGroups(SystemStore &store, int signalId, int fieldCount);
+    void rebuildTable();
+
+    std::unique_ptr<Form> m_form;
+    std::array<SystemStore, kSystemCount> m_stores;
+    QTimer *m_staleTimer = nullptr;
+    FieldViews m_fields;
+};

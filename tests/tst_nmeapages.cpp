@@ -1,0 +1,299 @@
+#include "moduleharness.h"
+#include "receiverlines.h"
+
+#include "msgbasewidget.h"
+
+#include <QLabel>
+#include <QTableWidget>
+#include <QtTest>
+
+using namespace ReceiverLines;
+
+namespace {
+// The address field followed by count numbered fields.
+QByteArray numberedSentence(const QByteArray &address, int count, const QByteArray &prefix)
+{
+    return sentence(count > 0 ? address + "," + numberedFields(count, prefix) : address);
+}
+
+bool hasIdeograph(const QString &text)
+{
+    for (QChar c : text) {
+        if (c.unicode() >= 0x4E00 && c.unicode() <= 0x9FFF)
+            return true;
+    }
+    return false;
+}
+
+quint64 acceptedBy(ModuleHarness &h, const QString &label)
+{
+    for (const auto &count : h.module().acceptedLineCounts()) {
+        if (count.first == label)
+            return count.second;
+    }
+    return 0;
+}
+} // namespace
+
+class NmeaPagesTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void catalogueOrderPerMode();
+    void everyTalkerAndTheHighRateVariants();
+    void fieldCountRules_data();
+    void fieldCountRules();
+    void realReceiverSentences_data();
+    void realReceiverSentences();
+    void hprHasNoFirstCharacterTest();
+    void hiddenPageTakesItsLineWithoutUpdating();
+    void corruptAndOversizedLinesAreRefusedQuietly();
+    void lineSplitAcrossChunks();
+    void englishTexts_data();
+    void englishTexts();
+    void noSourceTextLeftInEnglishMode();
+};
+
+void NmeaPagesTest::catalogueOrderPerMode()
+{
+    const QStringList nmea = {"GGA", "GGAH", "VTG", "ZDA", "RMC", "RMCH", "GSV", "GLL", "GST", "HDT", "TRA"};
+    ModuleHarness idle(0);
+    QCOMPARE(idle.pageLabels(), nmea);
+    // HPR opens the Korvane list, right after the NMEA pages.
+    ModuleHarness hpl(1);
+    QCOMPARE(hpl.pageLabels().mid(0, 11), nmea);
+    QCOMPARE(hpl.pageLabels().value(11), QString("HPR"));
+}
+
+void NmeaPagesTest::everyTalkerAndTheHighRateVariants()
+{
+    ModuleHarness h(0);
+    const QByteArray gga = ",092725.00,4717.11399,N,00833.91590,E,1,08,1.01,499.6,M,48.0,M,,";
+    h.show("GGA");
+    h.feed(sentence("GNGGA" + gga));
+    QCOMPARE(h.cell("GGA", 0, 1), QString("092725.00"));
+    h.feed(sentence("GPGGA,092726.00" + gga.mid(10)));
+    QCOMPARE(h.cell("GGA", 0, 1), QString("092726.00"));
+    h.feed(sentence("BDGGA,092727.00" + gga.mid(10)));
+    QCOMPARE(h.cell("GGA", 0, 1), QString("092727.00"));
+
+    // The variant goes to the GGAH page only, even while the GGA page is in front.
+    h.feed(sentence("GPGGAH,092728.00" + gga.mid(10)));
+    QCOMPARE(h.cell("GGA", 0, 1), QString("092727.00"));
+    QVERIFY(h.isMarked("GGAH"));
+    h.show("GGAH");
+    h.feed(sentence("GPGGAH,092729.00" + gga.mid(10)));
+    QCOMPARE(h.cell("GGAH", 0, 1), QString("092729.00"));
+    h.feed(sentence("GPGGA,092730.00" + gga.mid(10)));
+    QCOMPARE(h.cell("GGAH", 0, 1), QString("092729.00"));
+
+    h.show("RMCH");
+    h.feed(sentence("GNRMCH,083559.00,A,4717.11437,N,00833.91522,E,0.004,77.52,091202,,,A,V"));
+    QCOMPARE(h.cell("RMCH", 0, 1), QString("083559.00"));
+    QVERIFY(!h.isMarked("RMC"));
+    QCOMPARE(acceptedBy(h, "GGA"), quint64(4));
+    QCOMPARE(acceptedBy(h, "GGAH"), quint64(2));
+}
+
+void NmeaPagesTest::fieldCountRules_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QByteArray>("address");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<bool>("lastOptional");
+    struct Page
+    {
+        const char *label;
+        const char *address;
+        int rows;
+        bool lastOptional;
+    };
+    const Page pages[] = {
+        {"GGA", "GNGGA", 14, true},  {"GGAH", "GNGGAH", 14, true}, {"GLL", "GNGLL", 7, false},
+        {"RMC", "GNRMC", 13, true},  {"RMCH", "GPRMCH", 13, true}, {"VTG", "GPVTG", 9, false},
+        {"ZDA", "GNZDA", 6, false},  {"GST", "GPGST", 8, true},    {"HDT", "GNHDT", 2, true},
+        {"HPR", "GNHPR", 8, true},   {"TRA", "GPTRA", 8, true},
+    };
+    for (const Page &page : pages)
+        QTest::newRow(page.label) << page.label << QByteArray(page.address) << page.rows << page.lastOptional;
+}
+
+// Every row is first filled from a complete sentence, then sentences one field
+// short, one and two fields long or two short arrive.
+void NmeaPagesTest::fieldCountRules()
+{
+    QFETCH(QString, label);
+    QFETCH(QByteArray, address);
+    QFETCH(int, rows);
+    QFETCH(bool, lastOptional);
+    ModuleHarness h(1);
+    QVERIFY(h.show(label));
+    h.feed(numberedSentence(address, rows, "a"));
+    QCOMPARE(h.cell(label, 0, 1), QString("a0"));
+    QCOMPARE(h.cell(label, rows - 1, 1), QString("a%1").arg(rows - 1));
+
+    for (int delta : {1, 2, -2})
+        h.feed(numberedSentence(address, rows + delta, "x"));
+    QCOMPARE(h.cell(label, 0, 1), QString("a0"));
+    QCOMPARE(acceptedBy(h, label), quint64(1));
+
+    h.feed(numberedSentence(address, rows - 1, "b"));
+    QCOMPARE(acceptedBy(h, label), quint64(lastOptional ? 2 : 1));
+    QCOMPARE(h.cell(label, 0, 1), QString(lastOptional ? "b0" : "a0"));
+    QCOMPARE(h.cell(label, rows - 2, 1), QString(lastOptional ? "b%1" : "a%1").arg(rows - 2));
+    // The row without a field keeps what it showed.
+    QCOMPARE(h.cell(label, rows - 1, 1), QString("a%1").arg(rows - 1));
+}
+
+void NmeaPagesTest::realReceiverSentences_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QByteArray>("body");
+    // NMEA 4.10 RMC with its navigational status, 2.3 without it.
+    QTest::newRow("RMC 4.10") << "RMC" << QByteArray("GNRMC,083559.00,A,4717.11437,N,00833.91522,E,0.004,77.52,091202,,,A,V");
+    QTest::newRow("RMC 2.3") << "RMC" << QByteArray("GPRMC,123519,A,4807.038,N,01131.000,E,022.4,084.4,230394,003.1,W,D");
+    QTest::newRow("GGA station id missing") << "GGA" << QByteArray("GPGGA,172814.0,3723.46587704,N,12202.26957864,W,2,6,1.2,18.893,M,-25.669,M,2.0");
+    QTest::newRow("GLL 2.3") << "GLL" << QByteArray("GPGLL,4717.11364,N,00833.91565,E,092321.00,A,A");
+    QTest::newRow("VTG empty magnetic") << "VTG" << QByteArray("GPVTG,77.52,T,,M,0.004,N,0.008,K,A");
+    QTest::newRow("ZDA") << "ZDA" << QByteArray("GNZDA,082710.00,16,09,2002,00,00");
+    QTest::newRow("GST empty ellipse") << "GST" << QByteArray("GPGST,082356.00,1.8,,,,1.7,1.3,2.2");
+    QTest::newRow("HDT") << "HDT" << QByteArray("GNHDT,271.374,T");
+    QTest::newRow("HDT without T") << "HDT" << QByteArray("GNHDT,271.374");
+    QTest::newRow("HPR GP talker") << "HPR" << QByteArray("GPHPR,060559.00,236.07,-000.05,000.00,4,30,0.00,0000");
+    QTest::newRow("TRA") << "TRA" << QByteArray("GNTRA,080050.00,112.77,-000.14,000.00,4,18,2.00,0004");
+}
+
+// Values are shown exactly as the receiver sent them, empty fields included.
+void NmeaPagesTest::realReceiverSentences()
+{
+    QFETCH(QString, label);
+    QFETCH(QByteArray, body);
+    ModuleHarness h(1);
+    h.show(label);
+    h.feed(sentence(body));
+    QVERIFY(h.isMarked(label));
+    // Row i shows field i + 1; a row whose field is missing keeps its empty text.
+    const QList<QByteArray> fields = body.split(',');
+    const int rows = h.table(label)->rowCount();
+    for (int row = 0; row < rows; ++row)
+        QCOMPARE(h.cell(label, row, 1), QString(fields.value(row + 1)));
+}
+
+void NmeaPagesTest::hprHasNoFirstCharacterTest()
+{
+    ModuleHarness h(1);
+    const QByteArray fields = ",060559.00,236.07,-000.05,000.00,4,30,0.00,0000";
+    // A "#"-framed line with a valid CRC-32 and the formatter at index 3 is taken by
+    // the HPR page, which does not look at the first character; TRA refuses it.
+    h.show("HPR");
+    h.feed(log("GNHPR" + fields));
+    QCOMPARE(h.cell("HPR", 1, 1), QString("236.07"));
+    h.show("TRA");
+    h.feed(log("GNTRA" + fields));
+    QCOMPARE(h.cell("TRA", 1, 1), QString());
+    QVERIFY(!h.isMarked("TRA"));
+}
+
+void NmeaPagesTest::hiddenPageTakesItsLineWithoutUpdating()
+{
+    ModuleHarness h(0);
+    h.show("GLL");
+    h.feed(sentence("GPZDA,082710.00,16,09,2002,00,00"));
+    QVERIFY(h.isMarked("ZDA"));
+    QCOMPARE(h.cell("ZDA", 0, 1), QString());
+    QCOMPARE(acceptedBy(h, "ZDA"), quint64(1));
+}
+
+void NmeaPagesTest::corruptAndOversizedLinesAreRefusedQuietly()
+{
+    ModuleHarness h(1);
+    h.show("GGA");
+    QByteArray badChecksum = sentence("GPGGA,1,2,3,4,5,6,7,8,9,10,11,12,13,14");
+    badChecksum[badChecksum.size() - 3] = badChecksum.at(badChecksum.size() - 3) == '0' ? '1' : '0';
+    const QByteArray lines[] = {
+        "\r\n", "$\r\n", "$GP\r\n", "$GPGGA\r\n", "$GPGGA*\r\n", "GPGGA,1*00\r\n",
+        badChecksum,
+        "$gpgga,1,2,3,4,5,6,7,8,9,10,11,12,13,14*00\r\n",
+        sentence("GPGGA," + QByteArray(",").repeated(200000)),
+        QByteArray(5000, '*') + "\r\n",
+        QByteArray("$GPGGA,\xff\xfe,2*1F\r\n"),
+    };
+    for (const QByteArray &line : lines)
+        h.feed(line);
+    for (const QString &label : h.pageLabels())
+        QVERIFY2(!h.isMarked(label), qPrintable(label));
+    QCOMPARE(h.cell("GGA", 0, 1), QString());
+}
+
+void NmeaPagesTest::lineSplitAcrossChunks()
+{
+    ModuleHarness h(0);
+    h.show("VTG");
+    const QByteArray line = sentence("GNVTG,77.52,T,,M,0.004,N,0.008,K,A");
+    const int cuts[] = {0, 4, 11, line.size() - 2, line.size() - 1, line.size()};
+    for (int i = 0; i + 1 < int(std::size(cuts)); ++i) {
+        h.feed(line.mid(cuts[i], cuts[i + 1] - cuts[i]));
+        QCOMPARE(h.cell("VTG", 0, 1), QString(i + 2 < int(std::size(cuts)) ? "" : "77.52"));
+    }
+    QCOMPARE(acceptedBy(h, "VTG"), quint64(1));
+}
+
+void NmeaPagesTest::englishTexts_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("english");
+    QTest::addColumn<QString>("chinese");
+    QTest::newRow("GGA utc") << "GGA" << 0 << 3 << "Coordinated Universal Time（UTC）" << "协调世界时";
+    QTest::newRow("GGA alt label") << "GGA" << 8 << 0 << "Alt" << "alt";
+    QTest::newRow("RMC speed unit") << "RMC" << 6 << 2 << "knots" << "knots（节）";
+    QTest::newRow("RMC untranslated") << "RMC" << 6 << 3 << "Speed Over Groud" << "Speed Over Groud";
+    QTest::newRow("VTG label line feed") << "VTG" << 2 << 0 << "Heading mag\n" << "Heading mag\n";
+    QTest::newRow("VTG degrees") << "VTG" << 2 << 2 << "degrees" << "度";
+    QTest::newRow("HPR heading") << "HPR" << 1 << 3 << "Heading angle" << "航向角";
+    QTest::newRow("TRA header") << "TRA" << -1 << 1 << "Value" << "值";
+}
+
+void NmeaPagesTest::englishTexts()
+{
+    QFETCH(QString, label);
+    QFETCH(int, row);
+    QFETCH(int, column);
+    QFETCH(QString, english);
+    QFETCH(QString, chinese);
+    for (const char *language : {"EN", "CH"}) {
+        ModuleHarness h(1, language);
+        QTableWidget *table = h.table(label);
+        QVERIFY(table);
+        const QString text = row < 0 ? table->horizontalHeaderItem(column)->text() : h.cell(label, row, column);
+        QCOMPARE(text, QString(language == QByteArray("EN") ? english : chinese));
+    }
+}
+
+// Every source text of these pages has its English, so nothing Chinese is left.
+void NmeaPagesTest::noSourceTextLeftInEnglishMode()
+{
+    ModuleHarness h(1);
+    QStringList labels = h.pageLabels().mid(0, 12);
+    for (const QString &label : labels) {
+        const MsgBaseWidget *page = h.page(label);
+        QVERIFY(page);
+        for (const QTableWidget *table : page->findChildren<QTableWidget *>()) {
+            for (int column = 0; column < table->columnCount(); ++column)
+                QVERIFY2(!hasIdeograph(table->horizontalHeaderItem(column)->text()), qPrintable(label));
+            for (int row = 0; row < table->rowCount(); ++row) {
+                for (int column : {0, 2, 3}) {
+                    const QTableWidgetItem *item = table->item(row, column);
+                    const QString text = item ? item->text() : QString();
+                    QVERIFY2(!hasIdeograph(text), qPrintable(label + ": " + text));
+                }
+            }
+        }
+        for (const QLabel *text : page->findChildren<QLabel *>())
+            QVERIFY2(!hasIdeograph(text->text()), qPrintable(label + ": " + text->text()));
+    }
+}
+
+QTEST_MAIN(NmeaPagesTest)
+#include "tst_nmeapages.moc"

@@ -351,8 +351,6 @@ void RecordPagesTest::texts_data()
     QTest::newRow("Galutc GPST wording") << "EN" << "Galutc" << 0 << 3 << "Clock bias of GPST relative to UTC";
     QTest::newRow("Bd3ion reserved") << "EN" << "Bd3ion" << 9 << 3 << "GPS week when calculating the ionosphere parameters";
     QTest::newRow("Bestnav velocity") << "EN" << "BestnavH" << 27 << 3 << "Vertical speed,m/s";
-    QTest::newRow("Bestnav crossed") << "EN" << "Bestnav" << 2 << 3 << "Longitude,degrees";
-    QTest::newRow("Clock status") << "EN" << "Time" << 0 << 3 << "Clock model status";
     // Texts without a translation show their source in English mode too.
     QTest::newRow("Bestvel untranslated") << "EN" << "Bestvel" << 6 << 3
                                           << "垂直速度，m/s，正值表示高度增加（向上），负值表示高度下降\n（向下）";

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "fieldtablepage.h"
+
+// ANTENNA: the status of the receiver's antennas.
+class AntennaTable : public FieldTablePage
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE AntennaTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+
+private:
+    static const FieldTableSpec &pageSpec();
+};

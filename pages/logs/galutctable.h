@@ -1,0 +1,14 @@
+#pragma once
+
+#include "fieldtablepage.h"
+
+// GALUTC: the Galileo time to UTC and GPS conversion parameters.
+class GalutcTable : public FieldTablePage
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE GalutcTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
+
+private:
+    static const FieldTableSpec &pageSpec();
+};

@@ -1,0 +1,424 @@
+#include "moduleharness.h"
+#include "receiverlines.h"
+
+#include "bestnavtable.h"
+#include "clockswitchtable.h"
+#include "headingtable.h"
+#include "headingtable2.h"
+
+#include <QTableWidget>
+#include <QTreeWidget>
+#include <QTreeWidgetItem>
+#include <QtTest>
+
+using namespace ReceiverLines;
+
+namespace {
+
+struct PageLog
+{
+    const char *label; // tree label of the page that owns the log ("" for none)
+    const char *name;  // log name as the receiver writes it after '#'
+    int fields;        // data fields of a well-formed record
+};
+
+// One well-formed log per page, plus neighbours that share a prefix or a length.
+const PageLog kLogs[] = {
+    {"AGRIC", "AGRICA", 57},
+    {"Bestpos", "BESTPOSA", 21},
+    {"Bestnav", "BESTNAVA", 30},
+    {"BestnavH", "BESTNAVHA", 30},
+    {"Bestvel", "BESTVELA", 8},
+    {"Bestxyz", "BESTXYZA", 28},
+    {"", "HEADINGA", 17}, // the "Heading" page never matches it, on purpose
+    {"KvnHeading", "KVNHEADINGA", 17},
+    {"Heading2", "HEADING2A", 17},
+    {"KvnHeading2", "KVNHEADING2A", 17},
+    {"Psrpos", "PSRPOSA", 21},
+    {"Psrvel", "PSRVELA", 8},
+    {"Tdifvel", "TDIFVELA", 8},
+    {"Gpsutc", "GPSUTCA", 10},
+    {"Bdsutc", "BDSUTCA", 10},
+    {"Galutc", "GALUTCA", 12},
+    {"Gpsion", "GPSIONA", 12},
+    {"Bdsion", "BDSIONA", 12},
+    {"Bd3ion", "BD3IONA", 10},
+    {"Galion", "GALIONA", 8},
+    {"Fwinfo", "FWINFOA", 9},
+    {"Time", "TIMEA", 11},
+    {"Inspva", "INSPVAA", 12},
+    {"Rawimux", "RAWIMUXA", 11},
+    {"Antenna", "ANTENNAA", 4},
+};
+
+QByteArray record(const QByteArray &name, int fields)
+{
+    return log(logBody(name, numberedFields(fields)));
+}
+
+// Vocabulary words in fields 0 and 1, numbered fields after them.
+QByteArray statusRecord(const QByteArray &name, int fields, const QByteArray &status, const QByteArray &type)
+{
+    return log(logBody(name, status + "," + type + "," + numberedFields(fields - 2, "v")));
+}
+
+// A page made as the catalogue makes one, outside any module, shown so it parses.
+template <typename Page>
+std::unique_ptr<Page> standalonePage(const QString &introStr, QTreeWidgetItem *treeParent)
+{
+    QObject *object = Page::staticMetaObject.newInstance(Q_ARG(QWidget *, nullptr), Q_ARG(QString, introStr),
+                                                         Q_ARG(QTreeWidgetItem *, treeParent));
+    std::unique_ptr<Page> page(qobject_cast<Page *>(object));
+    if (page)
+        page->show();
+    return page;
+}
+
+QString valueCell(FieldTablePage *page, int row)
+{
+    QTableWidgetItem *item = page->table()->item(row, 1);
+    return item ? item->text() : QString();
+}
+
+} // namespace
+
+class RecordPagesTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void takesItsOwnLogWithExactFieldCount_data();
+    void takesItsOwnLogWithExactFieldCount();
+    void refusesNeighbourLogs();
+    void headerTests_data();
+    void headerTests();
+    void headingVariants();
+    void pagesMadeOutsideTheCatalogue();
+    void statusDescriptionsAndRetranslation_data();
+    void statusDescriptionsAndRetranslation();
+    void statusWordsShownRaw();
+    void texts_data();
+    void texts();
+    void catalogueOrderAndModeFilters();
+    void malformedLinesAreRefusedQuietly();
+};
+
+void RecordPagesTest::takesItsOwnLogWithExactFieldCount_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("fields");
+    for (const PageLog &entry : kLogs) {
+        // KVNHEADING2 records reach the "KvnHeading" page first (its ten-character
+        // header is their prefix); headingVariants() covers that page directly.
+        if (*entry.label && qstrcmp(entry.label, "KvnHeading2") != 0)
+            QTest::newRow(entry.label) << entry.label << QByteArray(entry.name) << entry.fields;
+    }
+}
+
+void RecordPagesTest::takesItsOwnLogWithExactFieldCount()
+{
+    QFETCH(QString, label);
+    QFETCH(QByteArray, name);
+    QFETCH(int, fields);
+    ModuleHarness h(2);
+    QVERIFY(h.show(label));
+
+    h.feed(record(name, fields - 1) + record(name, fields + 1));
+    QVERIFY(!h.isMarked(label));
+    QCOMPARE(h.cell(label, 0, 1), QString());
+
+    h.feed(record(name, fields));
+    QVERIFY(h.isMarked(label));
+    QCOMPARE(h.cell(label, 0, 1), QString("f0"));
+    QCOMPARE(h.cell(label, fields - 1, 1), "f" + QString::number(fields - 1));
+}
+
+void RecordPagesTest::refusesNeighbourLogs()
+{
+    // Every page is hidden here, so parse() answers on the header test alone.
+    ModuleHarness h(2);
+    const QSet<QPair<QString, QString>> sharedPrefixes = {
+        // "#KVNHEADIN" begins KVNHEADING2 records and "#KVNHEADING" KVNHEADING
+        // records: both heading pages take both logs.
+        {"KvnHeading", "KVNHEADING2A"},
+        {"KvnHeading2", "KVNHEADINGA"},
+    };
+    QStringList labels = {"Heading"};
+    for (const PageLog &entry : kLogs) {
+        if (*entry.label)
+            labels << entry.label;
+    }
+    for (const QString &label : labels) {
+        MsgBaseWidget *page = h.page(label);
+        QVERIFY2(page, qPrintable(label));
+        for (const PageLog &entry : kLogs) {
+            const bool expected = label == entry.label || sharedPrefixes.contains(qMakePair(label, QString(entry.name)));
+            const QString line = QString::fromUtf8(record(entry.name, entry.fields));
+            QVERIFY2(page->parse(line) == expected, qPrintable(label + " given " + entry.name));
+        }
+    }
+}
+
+void RecordPagesTest::headerTests_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("fields");
+    QTest::addColumn<bool>("taken");
+    // The ionosphere and UTC pages compare seven characters: whatever follows counts.
+    QTest::newRow("GPSION bare") << "Gpsion" << QByteArray("GPSION") << 12 << true;
+    QTest::newRow("GPSIONB") << "Gpsion" << QByteArray("GPSIONB") << 12 << true;
+    QTest::newRow("GPSION suffix") << "Gpsion" << QByteArray("GPSION_ANY_SUFFIX") << 12 << true;
+    QTest::newRow("GALUTC suffix") << "Galutc" << QByteArray("GALUTCB") << 12 << true;
+    QTest::newRow("gpsion lower case") << "Gpsion" << QByteArray("gpsiona") << 12 << false;
+    // Longer headers include the comma or the final letter.
+    QTest::newRow("TIMESYNC") << "Time" << QByteArray("TIMESYNCA") << 11 << false;
+    QTest::newRow("TIMEB") << "Time" << QByteArray("TIMEB") << 11 << false;
+    QTest::newRow("AGRICB") << "AGRIC" << QByteArray("AGRICB") << 57 << false;
+    QTest::newRow("AGRICAX") << "AGRIC" << QByteArray("AGRICAX") << 57 << false;
+    QTest::newRow("BESTVELB") << "Bestvel" << QByteArray("BESTVELB") << 8 << false;
+    QTest::newRow("FWINFOB") << "Fwinfo" << QByteArray("FWINFOB") << 9 << false;
+    QTest::newRow("ANTENNA lower case") << "Antenna" << QByteArray("antennaa") << 4 << false;
+    // The BESTNAVH header carries no comma, so any eleventh character passes.
+    QTest::newRow("BESTNAVHAX") << "BestnavH" << QByteArray("BESTNAVHAX") << 30 << true;
+    QTest::newRow("BESTNAVHB") << "BestnavH" << QByteArray("BESTNAVHB") << 30 << false;
+}
+
+void RecordPagesTest::headerTests()
+{
+    QFETCH(QString, label);
+    QFETCH(QByteArray, name);
+    QFETCH(int, fields);
+    QFETCH(bool, taken);
+    ModuleHarness h(2);
+    QVERIFY(h.show(label));
+    h.feed(record(name, fields));
+    QCOMPARE(h.isMarked(label), taken);
+    QCOMPARE(h.cell(label, fields - 1, 1), taken ? "f" + QString::number(fields - 1) : QString());
+}
+
+void RecordPagesTest::headingVariants()
+{
+    ModuleHarness h(2);
+    const QByteArray kvnHeading = statusRecord("KVNHEADINGA", 17, "SOL_COMPUTED", "L1_INT");
+    const QByteArray kvnHeading2 = statusRecord("KVNHEADING2A", 17, "NO_CONVERGENCE", "NONE");
+
+    // The "Heading" page takes neither its own HEADING records nor KVNHEADING ones.
+    h.show("Heading");
+    auto *heading = qobject_cast<HeadingTable *>(h.page("Heading"));
+    QVERIFY(heading);
+    QVERIFY(!heading->parse(QString::fromUtf8(statusRecord("HEADINGA", 17, "SOL_COMPUTED", "L1_INT"))));
+    QVERIFY(!heading->parse(QString::fromUtf8(kvnHeading)));
+    QCOMPARE(h.cell("Heading", 0, 1), QString());
+
+    h.show("KvnHeading");
+    h.feed(kvnHeading);
+    QCOMPARE(h.cell("KvnHeading", 0, 1), QString("SOL_COMPUTED"));
+    QCOMPARE(h.cell("KvnHeading", 16, 1), QString("v14"));
+    QCOMPARE(h.cell("KvnHeading", 0, 3), QString("Solution computed"));
+    QCOMPARE(h.cell("KvnHeading", 1, 3), QString("L1 fixed solution"));
+    QVERIFY(!h.isMarked("Heading"));
+
+    // Offered directly, the "KvnHeading2" page takes both maker heading logs.
+    h.show("KvnHeading2");
+    MsgBaseWidget *kvn2 = h.page("KvnHeading2");
+    QVERIFY(kvn2->parse(QString::fromUtf8(kvnHeading)));
+    QCOMPARE(h.cell("KvnHeading2", 1, 3), QString("L1 fixed solution"));
+    QVERIFY(kvn2->parse(QString::fromUtf8(kvnHeading2)));
+    QCOMPARE(h.cell("KvnHeading2", 0, 3), QString("No convergence, invalid solution"));
+    QCOMPARE(h.cell("KvnHeading2", 1, 3), QString("No solution"));
+    QVERIFY(!kvn2->parse(QString::fromUtf8(statusRecord("KVNHEADING2A", 16, "SOL_COMPUTED", "NONE"))));
+}
+
+void RecordPagesTest::pagesMadeOutsideTheCatalogue()
+{
+    QTreeWidgetItem category;
+
+    // The clock-switch page has no catalogue row but is made the same way.
+    auto clock = standalonePage<ClockswitchTable>("ClockSwitch", &category);
+    QVERIFY(clock);
+    QCOMPARE(category.child(0)->text(0), QString("ClockSwitch"));
+    QVERIFY(!clock->parse(QString::fromUtf8(log(logBody("CLOCKSWITCHA", "1")))));
+    QVERIFY(!clock->parse(QString::fromUtf8(log(logBody("ClockSwitchA", "1,2")))));
+    QCOMPARE(valueCell(clock.get(), 0), QString());
+    QVERIFY(clock->parse(QString::fromUtf8(log(logBody("ClockSwitchA", "0")))));
+    QCOMPARE(valueCell(clock.get(), 0), QString("0"));
+
+    // Only the exact label "BestnavH" selects the BESTNAVH header.
+    auto lower = standalonePage<BestnavTable>("bestnavh", &category);
+    QVERIFY(lower);
+    QVERIFY(!lower->parse(QString::fromUtf8(record("BESTNAVHA", 30))));
+    QVERIFY(lower->parse(QString::fromUtf8(record("BESTNAVA", 30))));
+    QVERIFY(!lower->parse(QString::fromUtf8(record("BESTNAVA", 21))));
+    QCOMPARE(valueCell(lower.get(), 29), QString("f29"));
+
+    // A second heading page under any other label keeps "#HEADINGA," over eleven
+    // characters and so matches nothing.
+    auto other = standalonePage<HeadingTable2>("Other", &category);
+    QVERIFY(other);
+    for (const char *name : {"HEADINGA", "HEADING2A", "KVNHEADINGA", "KVNHEADING2A"})
+        QVERIFY2(!other->parse(QString::fromUtf8(record(name, 17))), name);
+}
+
+void RecordPagesTest::statusDescriptionsAndRetranslation_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("fields");
+    QTest::addColumn<QString>("statusText");
+    QTest::addColumn<QString>("typeText");
+    QTest::newRow("Bestvel") << "Bestvel" << QByteArray("BESTVELA") << 8 << "Solution Status" << "Velocity type";
+    QTest::newRow("Psrvel") << "Psrvel" << QByteArray("PSRVELA") << 8 << "Solution status" << "Velocity type";
+    QTest::newRow("Tdifvel") << "Tdifvel" << QByteArray("TDIFVELA") << 8 << "Solution status" << "Velocity type";
+    QTest::newRow("Bestxyz") << "Bestxyz" << QByteArray("BESTXYZA") << 28 << "Solution Status" << "Position type";
+    QTest::newRow("KvnHeading") << "KvnHeading" << QByteArray("KVNHEADINGA") << 17 << "Solution Status"
+                                << "Position type";
+    QTest::newRow("Heading2") << "Heading2" << QByteArray("HEADING2A") << 17 << "Solution status"
+                              << "Position type";
+}
+
+void RecordPagesTest::statusDescriptionsAndRetranslation()
+{
+    QFETCH(QString, label);
+    QFETCH(QByteArray, name);
+    QFETCH(int, fields);
+    QFETCH(QString, statusText);
+    QFETCH(QString, typeText);
+    ModuleHarness h(2);
+    h.show(label);
+    QCOMPARE(h.cell(label, 0, 3), statusText);
+    QCOMPARE(h.cell(label, 1, 3), typeText);
+
+    h.feed(statusRecord(name, fields, "COV_TRACE", "DOPPLER_VELOCITY"));
+    QCOMPARE(h.cell(label, 0, 3), QString("Covariance matrix trace exceeds maximum"));
+    QCOMPARE(h.cell(label, 1, 3), QString("Velocity computed using instantaneous Doppler"));
+
+    // An unknown word keeps the previous description; a refused record changes nothing.
+    h.feed(statusRecord(name, fields, "UNKNOWN_STATUS", "SINGLE") + statusRecord(name, fields + 1, "SOL_COMPUTED", "NONE"));
+    QCOMPARE(h.cell(label, 0, 3), QString("Covariance matrix trace exceeds maximum"));
+    QCOMPARE(h.cell(label, 1, 3), QString("Single point positioning"));
+
+    h.page(label)->onRetranslateUI();
+    QCOMPARE(h.cell(label, 0, 3), statusText);
+    QCOMPARE(h.cell(label, 1, 3), typeText);
+    QCOMPARE(h.cell(label, 0, 1), QString("UNKNOWN_STATUS"));
+}
+
+void RecordPagesTest::statusWordsShownRaw()
+{
+    ModuleHarness h(2);
+
+    // BESTXYZ describes only its position status and type, not those of the velocity.
+    h.show("Bestxyz");
+    QByteArray xyz = "SOL_COMPUTED,NARROW_INT," + numberedFields(6, "p") + ",INSUFFICIENT_OBS,DOPPLER_VELOCITY,"
+        + numberedFields(18, "v");
+    h.feed(log(logBody("BESTXYZA", xyz)));
+    QCOMPARE(h.cell("Bestxyz", 1, 3), QString("Narrow-lane fixed solution"));
+    QCOMPARE(h.cell("Bestxyz", 8, 1), QString("INSUFFICIENT_OBS"));
+    QCOMPARE(h.cell("Bestxyz", 8, 3), QString("Solution status"));
+    QCOMPARE(h.cell("Bestxyz", 9, 1), QString("DOPPLER_VELOCITY"));
+    QCOMPARE(h.cell("Bestxyz", 9, 3), QString("Velocity type"));
+
+    // BESTNAV describes none of its status words.
+    h.show("Bestnav");
+    QByteArray nav = "SOL_COMPUTED,NARROW_INT," + numberedFields(19, "p") + ",SOL_COMPUTED,DOPPLER_VELOCITY,"
+        + numberedFields(7, "v");
+    h.feed(log(logBody("BESTNAVA", nav)));
+    QCOMPARE(h.cell("Bestnav", 0, 1), QString("SOL_COMPUTED"));
+    QCOMPARE(h.cell("Bestnav", 0, 3), QString());
+    QCOMPARE(h.cell("Bestnav", 1, 3), QString());
+    QCOMPARE(h.cell("Bestnav", 22, 1), QString("DOPPLER_VELOCITY"));
+    QCOMPARE(h.cell("Bestnav", 21, 3), QString("Solution Status"));
+    QCOMPARE(h.cell("Bestnav", 22, 3), QString("Velocity type"));
+}
+
+void RecordPagesTest::texts_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("text");
+    // Misspellings, blanks and line feeds of the English file are kept.
+    QTest::newRow("Time minues") << "EN" << "Time" << 8 << 3 << "UTC minues";
+    QTest::newRow("Inspva Heignt") << "EN" << "Inspva" << 4 << 3 << "Heignt";
+    QTest::newRow("AGRIC leading blank") << "EN" << "AGRIC" << 44 << 3 << " Latitude of the slave antenna:-90~90 degrees";
+    QTest::newRow("AGRIC label") << "EN" << "AGRIC" << 29 << 0 << "Lat";
+    QTest::newRow("Rawimux label") << "EN" << "Rawimux" << 1 << 0 << "IMU type";
+    QTest::newRow("Psrvel hyphen") << "EN" << "Psrvel" << 4 << 3 << "Horizontal-speed over ground";
+    QTest::newRow("Tdifvel degrees") << "EN" << "Tdifvel" << 5 << 3
+                                     << "Actual direction of motion over ground with respect to True North,in degrees";
+    QTest::newRow("Galutc GPST wording") << "EN" << "Galutc" << 0 << 3 << "Clock bias of GPST relative to UTC";
+    QTest::newRow("Bd3ion reserved") << "EN" << "Bd3ion" << 9 << 3 << "GPS week when calculating the ionosphere parameters";
+    QTest::newRow("Bestnav velocity") << "EN" << "BestnavH" << 27 << 3 << "Vertical speed,m/s";
+    // Texts without a translation show their source in English mode too.
+    QTest::newRow("Bestvel untranslated") << "EN" << "Bestvel" << 6 << 3
+                                          << "垂直速度，m/s，正值表示高度增加（向上），负值表示高度下降\n（向下）";
+    QTest::newRow("AGRIC untranslated label") << "EN" << "AGRIC" << 49 << 0 << "Speed_Headin\ng";
+    QTest::newRow("Bestxyz untranslated") << "EN" << "Bestxyz" << 23 << 3 << "L1/G1/B1/E1 信号参与解算的卫星\n数";
+    // Source texts in Chinese mode.
+    QTest::newRow("CH Time") << "CH" << "Time" << 8 << 3 << "UTC 分钟";
+    QTest::newRow("CH Heading blank") << "CH" << "KvnHeading" << 16 << 3 << "GPS, GLONASS 和 BDS 使用的信号掩码 ";
+    QTest::newRow("CH Heading2 no blank") << "CH" << "Heading2" << 16 << 3 << "GPS, GLONASS 和 BDS 使用的信号掩码";
+    QTest::newRow("CH Antenna reversed") << "CH" << "Antenna" << 3 << 0 << "reversed";
+    QTest::newRow("CH Rawimux label") << "CH" << "Rawimux" << 0 << 0 << "IMU 错误";
+}
+
+void RecordPagesTest::texts()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, label);
+    QFETCH(int, row);
+    QFETCH(int, column);
+    QFETCH(QString, text);
+    ModuleHarness h(2, language);
+    QCOMPARE(h.cell(label, row, column), text);
+}
+
+void RecordPagesTest::catalogueOrderAndModeFilters()
+{
+    const QStringList order = {"AGRIC", "Bestpos", "Bestnav", "BestnavH", "Bestvel", "Bestxyz", "Heading",
+                               "KvnHeading", "Heading2", "KvnHeading2", "Matchpos", "Matchposh", "Psrpos",
+                               "Tdifpos", "Psrvel", "Tdifvel", "Gpsutc", "Bdsutc", "Galutc", "Gpsion", "Bdsion",
+                               "Bd3ion", "Galion", "Fwinfo", "Time", "Inspva", "Rawimux", "Antenna"};
+    auto ownLabels = [&order](const QStringList &labels) {
+        QStringList own;
+        for (const QString &label : labels) {
+            if (order.contains(label))
+                own << label;
+        }
+        return own;
+    };
+    ModuleHarness mode2(2);
+    QCOMPARE(ownLabels(mode2.pageLabels()), order);
+    QVERIFY(mode2.module().getTreeWidget()->findItems("ClockSwitch", Qt::MatchRecursive).isEmpty());
+
+    ModuleHarness mode1(1);
+    QStringList withoutModeTwo = order;
+    withoutModeTwo.removeAll("Heading2");
+    withoutModeTwo.removeAll("Psrpos");
+    QCOMPARE(ownLabels(mode1.pageLabels()), withoutModeTwo);
+}
+
+void RecordPagesTest::malformedLinesAreRefusedQuietly()
+{
+    ModuleHarness h(2);
+    h.show("Gpsion");
+    const QByteArray lines[] = {
+        log("GPSIONA,COM1,0 no header end " + numberedFields(12)),
+        log(logBody("GPSIONA", QByteArray(100000, ','))),
+        log(logBody("GPSIONA", "")),
+        log("GPSION"),
+        "#GPSIONA,COM1;" + numberedFields(12) + "*zzzzzzzz\r\n",
+        "#GPSION\r\n",
+    };
+    for (const QByteArray &line : lines)
+        h.feed(line);
+    QVERIFY(!h.isMarked("Gpsion"));
+    QCOMPARE(h.cell("Gpsion", 0, 1), QString());
+    h.feed(record("GPSIONA", 12));
+    QCOMPARE(h.cell("Gpsion", 11, 1), QString("f11"));
+}
+
+QTEST_MAIN(RecordPagesTest)
+#include "tst_recordpages.moc"

@@ -99,7 +99,7 @@ void SatellitePagesTest::catalogueRowsAndModes()
                 expected.removeAll(label);
         }
         QCOMPARE(present, expected);
-        // Satellite visibility comes right after the AGRIC/HPR pages, before the positions.
+        // Placed among the other Korvane pages, not merely appended.
         QVERIFY(h.pageLabels().indexOf("Satvis") < h.pageLabels().indexOf("Bestpos"));
         QVERIFY(h.pageLabels().indexOf("Psrdop2") < h.pageLabels().indexOf("Tdifpos"));
     }

@@ -7,6 +7,8 @@
 #include <QTableWidget>
 #include <QVarLengthArray>
 
+#include <algorithm>
+
 namespace {
 QTableWidget *namedTable(QWidget *parent, const char *name)
 {

@@ -1,0 +1,14 @@
+#include "psrdoptable2.h"
+
+#include "psrdoptable.h"
+
+const DopPageSpec &PsrdopTable2::pageSpec()
+{
+    static const DopPageSpec spec = PsrdopTable::dopSpec(staticMetaObject, "#PSRDOP2A,");
+    return spec;
+}
+
+PsrdopTable2::PsrdopTable2(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent)
+    : DopPage(pageSpec(), parent, introStr, treeParent)
+{
+}

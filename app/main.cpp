@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFile>
 #include <QStackedWidget>
 #include <QTextStream>
@@ -73,6 +74,14 @@ int main(int argc, char **argv)
                      qPrintable(input.errorString()));
         return 1;
     }
+
+    // The binary modes read their message descriptions from "MessageConfig" in the
+    // current directory; started elsewhere, the console works from its own directory,
+    // where the build and the installation put them. Paths on the command line are
+    // opened before this.
+    if (!QDir(QStringLiteral("MessageConfig")).exists()
+        && QDir(QCoreApplication::applicationDirPath()).exists(QStringLiteral("MessageConfig")))
+        QDir::setCurrent(QCoreApplication::applicationDirPath());
 
     if (parser.isSet(headlessOption)) {
         if (!input.isOpen() && !openInput(input, QStringLiteral("-")))

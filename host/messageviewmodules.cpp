@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QDebug>
-#include <QMutexLocker>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QThread>

@@ -68,7 +68,7 @@ QByteArray systemOfTalker(const char *talker)
     };
     for (const auto &entry : kTalkers) {
         if (std::strncmp(entry.talker, talker, 2) == 0)
-            return QByteArray(entry.system);
+            return QByteArray::fromRawData(entry.system, int(std::strlen(entry.system)));
     }
     return QByteArray(talker, 2);
 }
@@ -77,7 +77,8 @@ QByteArray systemOfTalker(const char *talker)
 QByteArray systemOfId(int id)
 {
     static const char *const kSystems[] = {"GPS", "GLO", "GAL", "BDS", "QZSS", "NAVIC"};
-    return id >= 1 && id <= 6 ? QByteArray(kSystems[id - 1]) : QByteArray();
+    return id >= 1 && id <= 6 ? QByteArray::fromRawData(kSystems[id - 1], int(std::strlen(kSystems[id - 1])))
+                              : QByteArray();
 }
 
 void appendField(QByteArray &text, const char *field, int size)
@@ -93,7 +94,11 @@ NmeaDecoder::NmeaDecoder()
     : m_latest(kNmeaKinds)
     , m_seen(kNmeaKinds, false)
 {
-    m_frame.reserve(kMaxSentence);
+    // Reserved buffers keep their capacity through resize(0), so framing and
+    // keeping records allocate nothing once the first sentences are in.
+    m_frame.reserve(kMaxSentence + 1);
+    for (QByteArray &record : m_latest)
+        record.reserve(128);
 }
 
 int NmeaDecoder::putData(const unsigned char *data, int length)
@@ -104,7 +109,7 @@ int NmeaDecoder::putData(const unsigned char *data, int length)
         // A '$' always starts over, so a false start inside binary data cannot
         // swallow the sentence that follows it.
         if (c == '$') {
-            m_frame.clear();
+            m_frame.resize(0);
             m_frame += c;
             m_inFrame = true;
             continue;
@@ -152,20 +157,19 @@ unsigned int NmeaDecoder::takeSentence()
 
     const char *body = text + 7;
     const int bodySize = star - 7;
-    const QByteArray system = systemOfTalker(text + 1);
     if (id == kGsvId) {
         splitBody(body, bodySize);
-        if (!takeSatellitesInView(system))
+        if (!takeSatellitesInView(systemOfTalker(text + 1)))
             return 0;
     } else if (id == kGsaId) {
         splitBody(body, bodySize);
         if (m_fields.size() < 17)
             return 0;
-        takeSatellitesUsed(system);
+        takeSatellitesUsed(systemOfTalker(text + 1));
     } else {
         // The talker leads, so the record says which system or combination it is.
         QByteArray &record = m_latest[int(id - 1)];
-        record.clear();
+        record.resize(0);
         record.append(text + 1, 2);
         record += ',';
         record.append(body, bodySize);
@@ -238,7 +242,7 @@ bool NmeaDecoder::takeSatellitesInView(const QByteArray &system)
     view->nextSentence = 0;
 
     QByteArray &record = m_latest[int(kGsvId - 1)];
-    record.clear();
+    record.resize(0);
     for (const SatelliteView &each : qAsConst(m_views))
         appendField(record, each.complete.constData(), each.complete.size());
     return true;
@@ -283,7 +287,7 @@ void NmeaDecoder::takeSatellitesUsed(const QByteArray &talkerSystem)
     entry->group = group;
 
     QByteArray &record = m_latest[int(kGsaId - 1)];
-    record.clear();
+    record.resize(0);
     for (const SystemEntry &each : qAsConst(m_used))
         appendField(record, each.group.constData(), each.group.size());
 }

@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSettings>
 #include <QStackedWidget>
@@ -32,6 +34,17 @@ bool openInput(QFile &file, const QString &path)
     return file.open(QIODevice::ReadOnly);
 }
 
+// The binary modes read their message descriptions from "MessageConfig" in the current
+// directory; started elsewhere, the console works from its own directory, where the
+// build and the installation put them. Called once every path of the command line has
+// been opened.
+void useMessageConfigDirectory()
+{
+    if (!QDir(QStringLiteral("MessageConfig")).exists()
+        && QDir(QCoreApplication::applicationDirPath()).exists(QStringLiteral("MessageConfig")))
+        QDir::setCurrent(QCoreApplication::applicationDirPath());
+}
+
 int fail(const QString &message)
 {
     std::fprintf(stderr, "msgview: %s\n", qPrintable(message));
@@ -54,6 +67,9 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
         QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
+    // Recordings go where the user started the console, even if it later works from its
+    // own directory.
+    app.setProperty("launchDirectory", QDir::currentPath());
     QSettings settings;
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
@@ -99,8 +115,11 @@ int main(int argc, char **argv)
         MessageViewModules module(&stack, language);
         module.addItemToTree(mode);
         QTextStream out(stdout);
-        if (parser.isSet(snapshotOption))
-            return runSnapshot(module, stack, input, parser.value(snapshotOption), out);
+        if (parser.isSet(snapshotOption)) {
+            const QString directory = QFileInfo(parser.value(snapshotOption)).absoluteFilePath();
+            useMessageConfigDirectory();
+            return runSnapshot(module, stack, input, directory, out);
+        }
         return runHeadlessReplay(module, input, out);
     }
 
@@ -122,5 +141,6 @@ int main(int argc, char **argv)
             return fail(error);
         window.connectTo(std::move(connection));
     }
+    useMessageConfigDirectory();
     return app.exec();
 }

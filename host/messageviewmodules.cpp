@@ -1,11 +1,12 @@
 #include "messageviewmodules.h"
 
+#include "annotatedlocker.h"
+#include "basicwidget.h"
 #include "messageviewmetaobjctx.h"
 #include "msgbasewidget.h"
 
 #include <QApplication>
 #include <QDebug>
-#include <QMutexLocker>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QThread>
@@ -152,7 +153,7 @@ void MessageViewModules::clearMesWidgetList()
     }
 
     if (!m_pages.isEmpty()) {
-        QMutexLocker locker(&m_mutex);
+        AnnotatedMutexLocker<QMutex> locker(&m_mutex);
         for (int i = 0; i < m_pages.size(); ++i) {
             MsgBaseWidget *page = m_pages[i];
             if (m_stack)
@@ -205,9 +206,26 @@ void MessageViewModules::addItemToTree_Timeing()
 
 void MessageViewModules::addItemToTree_NPL()
 {
-    // The binary decode page and its message names join these two items.
     m_nmeaItem->setHidden(false);
     m_korvaneBinaryItem->setHidden(false);
+    if (!m_binaryPage) {
+        auto *page = new BasicWidget(nullptr, QString(), m_nmeaItem);
+        connect(page, &BasicWidget::sendCurMsgNameList, this, [this](const QStringList &names) {
+            for (QTreeWidgetItem *category : {m_nmeaItem, m_korvaneBinaryItem}) {
+                for (int i = 0; i < category->childCount(); ++i) {
+                    QTreeWidgetItem *item = category->child(i);
+                    item->setForeground(0, names.contains(item->text(0)) ? Qt::black : Qt::gray);
+                }
+            }
+        });
+        page->setLanguageFlag(m_languageFlag);
+        page->fillMessageTree(m_korvaneBinaryItem, m_mode);
+        // A receiving thread may already be feeding: publish the page under the lock.
+        AnnotatedMutexLocker<QMutex> locker(&m_mutex);
+        m_binaryPage = page;
+    }
+    if (!m_pages.contains(m_binaryPage))
+        m_pages.append(m_binaryPage);
 }
 
 void MessageViewModules::setTreeForeground()
@@ -230,6 +248,7 @@ void MessageViewModules::changeStack(QTreeWidgetItem *item)
         if (!m_binaryPage)
             return;
         emit messageViewTitleShow(item->text(0));
+        static_cast<BasicWidget *>(m_binaryPage)->showMessage(item->text(0));
         if (m_stack)
             m_stack->setCurrentWidget(m_binaryPage);
         return;
@@ -246,8 +265,11 @@ void MessageViewModules::changeStack(QTreeWidgetItem *item)
 
 void MessageViewModules::onUpdateBuffer(QByteArray data)
 {
-    if (isBinaryMode(m_mode)) {
-        QMutexLocker locker(&m_mutex);
+    // A receiving thread may feed the binary page only; the text path touches the
+    // pages' widgets, so what such a thread sends in a text mode is dropped (and the
+    // mode, which the GUI thread changes, is not even read there).
+    if (QThread::currentThread() != thread() || isBinaryMode(m_mode)) {
+        AnnotatedMutexLocker<QMutex> locker(&m_mutex);
         if (m_binaryPage)
             m_binaryPage->parseRawData(data);
         return;

@@ -1,0 +1,77 @@
+#include "binarypage.h"
+#include "moduleharness.h"
+#include "nmeaepoch.h"
+
+#include <QDir>
+#include <QtTest>
+
+#include <atomic>
+#include <thread>
+
+// A receiving thread feeds the module as fast as it can while the GUI thread keeps
+// switching product modes, choosing messages and delivering the page's queued
+// records. Run also in the thread-sanitizer build (MESSAGEVIEW_SANITIZE=thread).
+class BinaryThreadsTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void feedingThreadSurvivesModeSwitches();
+};
+
+void BinaryThreadsTest::initTestCase()
+{
+    qunsetenv("MESSAGEVIEW_GNSSDECODE");
+    QDir::setCurrent(QStringLiteral(MESSAGEVIEW_SOURCE_DIR));
+}
+
+void BinaryThreadsTest::feedingThreadSurvivesModeSwitches()
+{
+    ModuleHarness h(4);
+    const QByteArray stream = nmeaEpoch(1) + nmeaEpoch(2) + nmeaEpoch(3);
+    // Every call of the clock is four seconds on, so each chunk also refreshes the
+    // list and sends it across.
+    std::atomic<qint64> now{0};
+    auto clock = [&now] { return now += 4; };
+
+    std::atomic<bool> stop{false};
+    std::atomic<int> chunks{0};
+    std::thread feeder([&] {
+        int at = 0;
+        while (!stop.load()) {
+            // Chunks of varying size, so sentences are split across calls.
+            const int size = 1 + (at * 31) % 300;
+            h.module().onUpdateBuffer(stream.mid(at % stream.size(), size));
+            at += size;
+            chunks.fetch_add(1);
+        }
+    });
+
+    const int modes[] = {4, 5, 0};
+    const char *const kinds[] = {"GGA", "GSV", "RMC", "GSA"};
+    for (int round = 0; round < 60; ++round) {
+        const int mode = modes[round % 3];
+        h.module().addItemToTree(mode);
+        if (mode != 0) {
+            BinaryPage::page(h)->setClock(clock);
+            QVERIFY(h.show(kinds[round % 4]));
+        }
+        for (int i = 0; i < 5; ++i) {
+            QCoreApplication::processEvents();
+            std::this_thread::yield();
+        }
+    }
+    const int fedWhileSwitching = chunks.load();
+    stop = true;
+    feeder.join();
+    QVERIFY(fedWhileSwitching > 0);
+
+    // The page of the last switch still decodes and shows.
+    h.module().addItemToTree(4);
+    QVERIFY(h.show("GGA"));
+    h.feed(nmeaEpoch(4));
+    QCOMPARE(BinaryPage::cell(h, 1, 1), QString("081204.00"));
+}
+
+QTEST_MAIN(BinaryThreadsTest)
+#include "tst_binarythreads.moc"

@@ -177,7 +177,9 @@ void MessageViewModules::addItembyMeta(const MessageViewMetaObjCtx *table, int c
         const MessageViewMetaObjCtx &entry = table[i];
         if (entry.modeFilter != 0 && entry.modeFilter != m_mode)
             continue;
-        QObject *object = entry.metaObject.newInstance(Q_ARG(QWidget *, nullptr), Q_ARG(QString, entry.label),
+        // Made as a child of the stack it will live in: a page adopted later by another
+        // parent restyles its whole widget tree, which is most of a mode change's time.
+        QObject *object = entry.metaObject.newInstance(Q_ARG(QWidget *, m_stack), Q_ARG(QString, entry.label),
                                                        Q_ARG(QTreeWidgetItem *, category));
         if (auto *page = qobject_cast<MsgBaseWidget *>(object))
             m_pages.append(page);

@@ -87,6 +87,7 @@ public:
         m_clock.start();
         m_timer.start(0);
     }
+    bool hasStarted() const { return m_clock.isValid(); }
 
 private:
     bool reachedEnd() const
@@ -251,8 +252,8 @@ int main(int argc, char **argv)
                                           QStringLiteral("Write to a serial device or pseudo-terminal."),
                                           QStringLiteral("PATH"));
     const QCommandLineOption baudOption(QStringLiteral("baud"),
-                                        QStringLiteral("Baud rate of --serial; bytes are paced to it (default 115200)."),
-                                        QStringLiteral("N"), QStringLiteral("115200"));
+                                        QStringLiteral("Baud rate of --serial; bytes are paced to it (default 460800)."),
+                                        QStringLiteral("N"), QStringLiteral("460800"));
     const QCommandLineOption fastOption(QStringLiteral("as-fast-as-possible"),
                                         QStringLiteral("Do not wait for the clock: send as fast as the outputs take it."));
     const QCommandLineOption summaryOption(
@@ -386,6 +387,13 @@ int main(int argc, char **argv)
     } else {
         runner.start();
     }
+    // Ctrl-C while still waiting for clients ends the wait.
+    QTimer interruptWatch;
+    QObject::connect(&interruptWatch, &QTimer::timeout, &app, [&runner] {
+        if (g_interrupted && !runner.hasStarted())
+            QCoreApplication::exit(130);
+    });
+    interruptWatch.start(200);
     const int status = app.exec();
     owner.reset();
     return status;

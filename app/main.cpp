@@ -84,6 +84,11 @@ int main(int argc, char **argv)
         return runHeadlessReplay(module, input, out);
     }
 
+    // Without an input the console replays the demo session built into it.
+    if (!input.isOpen()) {
+        input.setFileName(QStringLiteral(":/demo/rxsim-demo.log"));
+        input.open(QIODevice::ReadOnly);
+    }
     MainWindow window(language, mode);
     window.show();
     if (input.isOpen())

@@ -2,11 +2,8 @@
 
 namespace rxsim {
 
-MessageWriter::MessageWriter(const Epoch &epoch, const Receiver &receiver, int mode, quint64 seed,
-                             const LineSink &sink)
+MessageWriter::MessageWriter(const Epoch &epoch, quint64 seed, const LineSink &sink)
     : m_epoch(epoch)
-    , m_receiver(receiver)
-    , m_mode(mode)
     , m_seed(seed)
     , m_sink(sink)
 {

@@ -16,11 +16,9 @@ class MessageWriter
 public:
     using LineSink = std::function<void(const QByteArray &line)>;
 
-    MessageWriter(const Epoch &epoch, const Receiver &receiver, int mode, quint64 seed, const LineSink &sink);
+    MessageWriter(const Epoch &epoch, quint64 seed, const LineSink &sink);
 
     const Epoch &epoch() const { return m_epoch; }
-    const Receiver &receiver() const { return m_receiver; }
-    int mode() const { return m_mode; }
     quint64 seed() const { return m_seed; }
 
     // "$" + address + "," + fields, framed.
@@ -31,8 +29,6 @@ public:
 
 private:
     const Epoch &m_epoch;
-    const Receiver &m_receiver;
-    int m_mode;
     quint64 m_seed;
     const LineSink &m_sink;
 };

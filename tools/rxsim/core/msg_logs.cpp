@@ -135,11 +135,6 @@ void rawimux(MessageWriter &w)
     w.log("RAWIMUX", f);
 }
 
-int ggaStatus(const Epoch &e)
-{
-    return e.best.ggaQuality;
-}
-
 void agric(MessageWriter &w)
 {
     const Epoch &e = w.epoch();
@@ -148,7 +143,7 @@ void agric(MessageWriter &w)
     const QTime t = e.utc.time();
     Fields f;
     f << "GNSS" << "236" << d.year() << d.month() << d.day() << t.hour() << t.minute()
-      << fixed(t.second() + t.msec() / 1000.0, 2) << ggaStatus(e) << (e.usedCount >= 5 ? 4 : 0)
+      << fixed(t.second() + t.msec() / 1000.0, 2) << p.ggaQuality << (e.usedCount >= 5 ? 4 : 0)
       << e.usedCountOf(GnssSystem::Gps) << e.usedCountOf(GnssSystem::Bds) << e.usedCountOf(GnssSystem::Glonass)
       << fixed(e.baselineEnu.y, 4) << fixed(e.baselineEnu.x, 4) << fixed(e.baselineEnu.z, 4)
       << fixed(p.latitudeStd, 4) << fixed(p.longitudeStd, 4) << fixed(p.heightStd, 4) << fixed(e.heading, 4)

@@ -17,12 +17,6 @@ QByteArray valid(const Epoch &e)
     return e.best.ggaQuality > 0 ? "A" : "V";
 }
 
-// GPS quality of a fix as GGA, HPR and TRA give it.
-int quality(const PositionFix &f)
-{
-    return f.ggaQuality;
-}
-
 QByteArray differentialAge(const Epoch &e)
 {
     return e.differentialAge > 0.0 ? fixed(e.differentialAge, 1) : QByteArray();
@@ -38,7 +32,7 @@ Fields ggaFields(const Epoch &e, int decimals)
     const PositionFix &f = e.best;
     Fields g;
     g << utcClock(e) << nmeaLatitude(f.latitude, decimals) << northSouth(f.latitude)
-      << nmeaLongitude(f.longitude, decimals) << eastWest(f.longitude) << quality(f) << padded(e.usedCount, 2)
+      << nmeaLongitude(f.longitude, decimals) << eastWest(f.longitude) << f.ggaQuality << padded(e.usedCount, 2)
       << fixed(e.dops.hdop, 1) << fixed(f.height, 4) << "M" << fixed(e.undulation, 4) << "M" << differentialAge(e)
       << ggaStation(e);
     return g;

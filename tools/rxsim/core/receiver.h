@@ -125,9 +125,6 @@ public:
 
     Receiver(const PlatformSettings &platform, bool rtk, quint64 seed, const QDateTime &startUtc);
     Epoch at(qint64 elapsedMs);
-    const Sky &sky() const { return m_sky; }
-    const PlatformSettings &platform() const { return m_platform; }
-    qint64 startGpsMs() const { return m_startGpsMs; }
 
 private:
     void platformState(double t, Epoch &e, double &lat, double &lon, double &hMsl) const;

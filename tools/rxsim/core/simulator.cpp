@@ -141,7 +141,7 @@ QVector<QByteArray> Simulator::step()
         }
         m_lastLines << sent;
     };
-    MessageWriter writer(epoch, *m_receiver, m_settings.mode, m_settings.seed, sink);
+    MessageWriter writer(epoch, m_settings.seed, sink);
     for (int kind : qAsConst(due))
         messageKinds().at(kind).write(writer);
 

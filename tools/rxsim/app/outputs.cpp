@@ -122,6 +122,12 @@ void TcpOutput::finish()
     const QList<QTcpSocket *> clients = m_clients;
     for (QTcpSocket *client : clients)
         client->disconnectFromHost();
+    // A client that stops reading does not keep the program alive for ever.
+    QTimer::singleShot(30000, this, [this] {
+        const QList<QTcpSocket *> stalled = m_clients;
+        for (QTcpSocket *client : stalled)
+            client->abort();
+    });
     checkFinished();
 }
 

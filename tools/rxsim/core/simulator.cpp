@@ -167,7 +167,16 @@ void Simulator::cut(const QByteArray &bytes)
 {
     m_uncut += bytes;
     int start = 0;
-    for (int end = m_uncut.indexOf("\r\n"); end >= 0; end = m_uncut.indexOf("\r\n", start)) {
+    if (m_skipToLineEnd) {
+        const int end = m_uncut.indexOf("\r\n");
+        if (end < 0) {
+            m_uncut.clear();
+            return;
+        }
+        m_skipToLineEnd = false;
+        start = end + 2;
+    }
+    for (int end = m_uncut.indexOf("\r\n", start); end >= 0; end = m_uncut.indexOf("\r\n", start)) {
         const QByteArray line = m_uncut.mid(start, end + 2 - start);
         start = end + 2;
         ++m_tally.linesCut;
@@ -178,6 +187,14 @@ void Simulator::cut(const QByteArray &bytes)
             ++m_tally.taken[page];
     }
     m_uncut.remove(0, start);
+    // Only lost line ends at a rate near one build such a line; the console keeps
+    // it, no page takes it, and counting it is not worth unbounded memory here.
+    if (m_uncut.size() > kLongestCountedLine) {
+        ++m_tally.linesCut;
+        ++m_tally.refused;
+        m_uncut.clear();
+        m_skipToLineEnd = true;
+    }
 }
 
 } // namespace rxsim

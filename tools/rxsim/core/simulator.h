@@ -96,7 +96,9 @@ private:
     qint64 m_tick = 0;
     Tally m_tally;
     QVector<SentLine> m_lastLines;
+    static constexpr int kLongestCountedLine = 16 << 20;
     QByteArray m_uncut; // received bytes after the last "\r\n"
+    bool m_skipToLineEnd = false; // the rest of an overlong line, already counted
 };
 
 } // namespace rxsim

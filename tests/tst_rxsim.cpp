@@ -1,6 +1,7 @@
 #include "moduleharness.h"
 
 #include "lineframe.h"
+#include "receiver.h"
 #include "linechecksum.h"
 #include "pageroutes.h"
 #include "simulator.h"
@@ -127,6 +128,10 @@ private slots:
     void faultsDoWhatTheySay();
     void splitDeliveryChangesNothing();
     void messagesOfOneInstantAgree();
+    void clocksAndMotionAgree();
+    void theSkyMovesSmoothly();
+    void ratesAreHonoured_data();
+    void ratesAreHonoured();
 };
 
 void RxsimTest::everyLineIsTakenByItsPage_data()
@@ -385,6 +390,107 @@ void RxsimTest::messagesOfOneInstantAgree()
     QCOMPARE(psrdop.size(), 7 + psrdop.at(6).toInt());
     QCOMPARE(bestpos.at(14).toInt(), gga.at(6).toInt());
     QCOMPARE(gga.at(7), QByteArray::number(psrdop.at(2).toDouble(), 'f', 1));
+}
+
+void RxsimTest::clocksAndMotionAgree()
+{
+    const Run timing = simulate(settingsFor(7), 1000);
+    QHash<QByteArray, QList<QByteArray>> byName;
+    for (const auto &sent : timing.lines)
+        byName.insert(sent.line.left(sent.line.indexOf(',')), fieldsOf(sent.line));
+    // GPS time runs 18 s ahead of UTC, BDS time 14 s behind GPS time.
+    const QList<QByteArray> gps = byName.value("$GPSTIME"), bds = byName.value("$BDSTIME"), zda = byName.value("$GNZDA");
+    const QByteArray &hms = zda.at(0);
+    const double utcSecondsOfDay = hms.left(2).toInt() * 3600 + hms.mid(2, 2).toInt() * 60 + hms.mid(4).toDouble();
+    QCOMPARE(std::fmod(gps.at(2).toDouble(), 86400.0) - 18.0, utcSecondsOfDay);
+    QCOMPARE(bds.at(2).toDouble(), gps.at(2).toDouble() - 14.0);
+    QCOMPARE(bds.at(1).toInt(), gps.at(1).toInt() - 1356);
+
+    // On the move: speed and track the same in every message, the vehicle on its loop.
+    SimulatorSettings settings = settingsFor(1);
+    settings.platform.loopRadius = 80.0;
+    settings.platform.speed = 12.0;
+    const Run moving = simulate(settings, 1000);
+    byName.clear();
+    for (const auto &sent : moving.lines)
+        byName.insert(sent.line.left(sent.line.indexOf(',')), fieldsOf(sent.line));
+    const QList<QByteArray> vtg = byName.value("$GNVTG"), bestvel = byName.value("#BESTVELA"),
+                            bestpos = byName.value("#BESTPOSA");
+    QVERIFY(qAbs(bestvel.at(4).toDouble() - 12.0) < 0.05);
+    QVERIFY(qAbs(vtg.at(6).toDouble() - bestvel.at(4).toDouble() * 3.6) < 0.01);
+    QVERIFY(qAbs(vtg.at(0).toDouble() - bestvel.at(5).toDouble()) < 0.01);
+    const Vec3 offset = ecefToEnu(geodeticToEcef(bestpos.at(2).toDouble(), bestpos.at(3).toDouble(), 0.0)
+                                      - geodeticToEcef(settings.platform.latitude, settings.platform.longitude, 0.0),
+                                  settings.platform.latitude, settings.platform.longitude);
+    QVERIFY(qAbs(std::hypot(offset.x, offset.y) - 80.0) < 0.5);
+}
+
+void RxsimTest::theSkyMovesSmoothly()
+{
+    Receiver receiver(PlatformSettings(), true, 1, SimulatorSettings().startUtc);
+    QHash<int, TrackedSatellite> previous;
+    QSet<int> systems;
+    int multiSignal = 0, total = 0;
+    for (qint64 ms = 0; ms <= 300000; ms += 1000) {
+        const Epoch e = receiver.at(ms);
+        QHash<int, TrackedSatellite> now;
+        for (const TrackedSatellite &s : e.satellites) {
+            const int key = int(s.satellite->system) * 1000 + s.satellite->prn;
+            now.insert(key, s);
+            systems.insert(int(s.satellite->system));
+            ++total;
+            multiSignal += s.measurements.size() > 1 ? 1 : 0;
+            QVERIFY(s.elevation >= Receiver::kElevationMask && s.elevation <= 90.0);
+            if (!previous.contains(key))
+                continue;
+            const TrackedSatellite &p = previous.value(key);
+            QVERIFY(qAbs(s.elevation - p.elevation) < 0.1);
+            QVERIFY(qAbs(std::remainder(s.azimuth - p.azimuth, 360.0)) < 1.0 || s.elevation > 85.0);
+            QVERIFY(qAbs(s.measurements.first().cn0 - p.measurements.first().cn0) < 1.0);
+            QVERIFY(s.measurements.first().lockTime > p.measurements.first().lockTime);
+        }
+        previous = now;
+    }
+    QCOMPARE(systems.size(), kSystemCount);
+    QVERIFY(multiSignal > total * 3 / 4);
+}
+
+void RxsimTest::ratesAreHonoured_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("periodMs");
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("GGA twice a second") << "GGA" << 500 << "GGA" << 40;
+    QTest::newRow("GGAH by default") << "GGAH" << -1 << "GGAH" << 100;
+    QTest::newRow("RANGE off") << "RANGE" << 0 << "Range" << 0;
+    QTest::newRow("PSRDOP every 3 s") << "PSRDOP" << 3000 << "Psrdop" << 7;
+    QTest::newRow("ephemeris bursts every 15 s") << "GALEPHEM" << 15000 << "Galephem" << -2;
+}
+
+void RxsimTest::ratesAreHonoured()
+{
+    QFETCH(QString, message);
+    QFETCH(int, periodMs);
+    QFETCH(QString, page);
+    QFETCH(int, lines);
+    SimulatorSettings settings = settingsFor(2);
+    if (periodMs >= 0)
+        settings.periodsMs.insert(message, periodMs);
+    const Run run = simulate(settings, 20000);
+    if (lines >= 0) {
+        QCOMPARE(run.tally.intactFor(page), quint64(lines));
+        return;
+    }
+    // Bursts: one log per Galileo satellite in view, -lines times.
+    int bursts = 0;
+    bool inBurst = false;
+    for (const auto &sent : run.lines) {
+        const bool ephemeris = sent.page == page;
+        bursts += ephemeris && !inBurst ? 1 : 0;
+        inBurst = ephemeris;
+    }
+    QCOMPARE(bursts, -lines);
 }
 
 QTEST_MAIN(RxsimTest)

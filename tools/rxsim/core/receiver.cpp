@@ -264,7 +264,7 @@ void Receiver::track(double t, const Vec3 &antenna, double lat, double lon, Epoc
         s.used = sat.system != GnssSystem::Sbas && elevation >= 10.0;
 
         const double cn0Base = 31.0 + 17.0 * std::sqrt(sinEl)
-            + SmoothNoise(hashMix(m_seed, satKey, 62), 1.5, 8.0, 45.0).at(t);
+            + SmoothNoise(hashMix(m_seed, satKey, 62), 1.5, 15.0, 60.0).at(t);
         for (int i = 0; i < sat.signalPlans.size(); ++i) {
             const SignalPlan &plan = sat.signalPlans.at(i);
             TrackedSignal sig;

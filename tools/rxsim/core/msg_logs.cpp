@@ -4,6 +4,7 @@
 #include "messages.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace rxsim {
 

@@ -3,6 +3,8 @@
 #include "formatting.h"
 #include "messages.h"
 
+#include <algorithm>
+
 namespace rxsim {
 
 namespace {

@@ -3,6 +3,7 @@
 #include "lineframe.h"
 
 #include <cstring>
+#include <iterator>
 
 namespace rxsim {
 

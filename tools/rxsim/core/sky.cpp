@@ -1,7 +1,5 @@
 #include "sky.h"
 
-#include <iterator>
-
 namespace rxsim {
 
 namespace {

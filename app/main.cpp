@@ -17,6 +17,9 @@
 
 namespace {
 
+// Sixty seconds of a mode-2 receiver recorded by rxsim when the console was built.
+constexpr char kDemoSession[] = ":/demo/rxsim-demo.log";
+
 bool hasOption(int argc, char **argv, const char *name)
 {
     for (int i = 1; i < argc; ++i) {
@@ -91,13 +94,15 @@ int main(int argc, char **argv)
                                         QStringLiteral("BYTES"), QStringLiteral("11520"));
     const QCommandLineOption recordOption(QStringLiteral("record"), QStringLiteral("Record the raw received bytes to FILE."),
                                           QStringLiteral("FILE"));
+    const QCommandLineOption demoOption(QStringLiteral("demo"),
+                                        QStringLiteral("Replay the demo session built into the console (the default without input)."));
     const QCommandLineOption headlessOption(QStringLiteral("headless"),
                                             QStringLiteral("Feed the whole input without a window; print lines per page and throughput."));
     const QCommandLineOption snapshotOption(QStringLiteral("snapshot"),
                                             QStringLiteral("Replay the input offscreen and write a PNG of every page into DIR."),
                                             QStringLiteral("DIR"));
-    parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, headlessOption,
-                       snapshotOption});
+    parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, demoOption,
+                       headlessOption, snapshotOption});
     parser.process(app);
 
     bool modeOk = false;
@@ -108,7 +113,9 @@ int main(int argc, char **argv)
 
     if (parser.isSet(headlessOption) || parser.isSet(snapshotOption)) {
         QFile input;
-        const QString path = parser.isSet(replayOption) ? parser.value(replayOption) : QStringLiteral("-");
+        const QString path = parser.isSet(replayOption) ? parser.value(replayOption)
+            : parser.isSet(demoOption)                  ? QString::fromLatin1(kDemoSession)
+                                                        : QStringLiteral("-");
         if (!openInput(input, path))
             return fail(QStringLiteral("cannot open %1: %2").arg(path, input.errorString()));
         QStackedWidget stack;
@@ -134,6 +141,8 @@ int main(int argc, char **argv)
         address = parser.value(replayOption) == QLatin1String("-")
             ? QStringLiteral("stdin")
             : QStringLiteral("file:%1@%2").arg(parser.value(replayOption), parser.value(rateOption));
+    else
+        address = QStringLiteral("file:%1@%2").arg(QString::fromLatin1(kDemoSession), parser.value(rateOption));
     if (!address.isEmpty()) {
         QString error;
         auto connection = ReceiverConnection::fromAddress(address, &error);

@@ -41,8 +41,8 @@ void BinaryThreadsTest::feedingThreadSurvivesModeSwitches()
         while (!stop.load()) {
             // Chunks of varying size, so sentences are split across calls.
             const int size = 1 + (at * 31) % 300;
-            h.module().onUpdateBuffer(stream.mid(at % stream.size(), size));
-            at += size;
+            h.module().onUpdateBuffer(stream.mid(at, size));
+            at = (at + size) % stream.size();
             chunks.fetch_add(1);
         }
     });

@@ -175,12 +175,13 @@ bool GSVTable::parse(QString line)
     // signal id add that signal to satellites already listed.
     if (signalId == 0 && m_fields.at(2).toInt() == 1)
         store.count = 0;
+    const int countBefore = store.count;
     storeGroups(store, signalId, fieldCount);
     // The sweep runs while anything is listed; restarting it on every sentence
     // would postpone it for ever on a live stream.
     if (!m_staleTimer->isActive())
         m_staleTimer->start();
-    rebuildTable();
+    rebuildTable(store.count == countBefore ? talker->system : -1);
     return true;
 }
 
@@ -263,12 +264,14 @@ void GSVTable::clearTimeOut()
         rebuildTable();
 }
 
-void GSVTable::rebuildTable()
+void GSVTable::rebuildTable(int changedSystem)
 {
     QTableWidget *table = m_form->tableWidget;
     int total = 0;
     for (const SystemStore &store : m_stores)
         total += store.count;
+    if (total != table->rowCount())
+        changedSystem = -1;
     table->setRowCount(total);
     m_form->lineEdit->setText(QString::number(total));
 
@@ -288,6 +291,10 @@ void GSVTable::rebuildTable()
         const SystemInfo &info = kSystems[system];
         const QBrush colour(QColor(info.red, info.green, info.blue));
         const SystemStore &store = m_stores[system];
+        if (changedSystem >= 0 && system != changedSystem) {
+            row += store.count;
+            continue;
+        }
         for (int i = 0; i < store.count; ++i, ++row) {
             const Satellite &satellite = store.satellites[i];
             // Every tracked signal's C/N0 in the order the signals were first

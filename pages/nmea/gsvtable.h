@@ -54,7 +54,9 @@ private:
     struct Form;
 
     void storeGroups(SystemStore &store, int signalId, int fieldCount);
-    void rebuildTable();
+    // Rewrites the table from the stores. When only `system` changed and no row count
+    // did, only that system's rows are rewritten: the other rows already show it.
+    void rebuildTable(int system = -1);
 
     std::unique_ptr<Form> m_form;
     std::array<SystemStore, kSystemCount> m_stores;

@@ -29,10 +29,13 @@ void BinaryThreadsTest::feedingThreadSurvivesModeSwitches()
 {
     ModuleHarness h(4);
     const QByteArray stream = nmeaEpoch(1) + nmeaEpoch(2) + nmeaEpoch(3);
-    // Every call of the clock is four seconds on, so each chunk also refreshes the
-    // list and sends it across.
+    // Every 20th call of the clock is four seconds on, so the list is refreshed and
+    // sent across often; on every call it would flood the GUI thread's event queue
+    // faster than any receiver could (one refresh per four seconds), and processing
+    // events would never end.
     std::atomic<qint64> now{0};
-    auto clock = [&now] { return now += 4; };
+    std::atomic<int> calls{0};
+    auto clock = [&now, &calls] { return ++calls % 20 == 0 ? now += 4 : now.load(); };
 
     std::atomic<bool> stop{false};
     std::atomic<int> chunks{0};

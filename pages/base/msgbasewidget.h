@@ -36,7 +36,7 @@ signals:
     void sendCommand(int index, QString cmd, bool isHex);
 
 public slots:
-    virtual void onGetCurRecIndex(int index);
+    void onGetCurRecIndex(int index);
     virtual void onRetranslateUI();
 
 private:

@@ -17,15 +17,25 @@ QVector<FieldRow> BestvelTable::velocityRows()
     return fieldRows(rows);
 }
 
+// Field 1 is a velocity type; the position-type vocabulary describes it.
+FieldTableSpec BestvelTable::velocityForm(FieldTableSpec spec)
+{
+    return spec.layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))
+        .window(654, 605)
+        .valuesAligned(Qt::AlignRight | Qt::AlignVCenter)
+        .statusCells(true);
+}
+
+FieldTableSpec BestvelTable::velocityPage(const QMetaObject &page, const char *header)
+{
+    return velocityForm(FieldTableSpec::record(page, header, velocityRows())
+                            .replaceRow(6, {QT_TR_NOOP("vert spd"), QT_TR_NOOP("m/s"),
+                                            QT_TR_NOOP("垂直速度，m/s，正值表示高度增加（向上），负值表示高度下降（向下）")}));
+}
+
 const FieldTableSpec &BestvelTable::pageSpec()
 {
-    // Field 1 is a velocity type; the position-type vocabulary describes it.
-    static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#BESTVELA,", velocityRows())
-            .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))
-            .window(654, 605)
-            .valuesAligned(Qt::AlignRight | Qt::AlignVCenter)
-            .statusCells(true);
+    static const FieldTableSpec spec = velocityForm(FieldTableSpec::record(staticMetaObject, "#BESTVELA,", velocityRows()));
     return spec;
 }
 

@@ -9,9 +9,12 @@ class BestvelTable : public FieldTablePage
 public:
     Q_INVOKABLE BestvelTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
 
-    // The eight velocity rows, shared by the PSRVEL and TDIFVEL pages.
-    static QVector<FieldRow> velocityRows();
+    // The page of a velocity log like this one whose vertical-speed description
+    // runs on one line: the PSRVEL and TDIFVEL pages.
+    static FieldTableSpec velocityPage(const QMetaObject &page, const char *header);
 
 private:
+    static QVector<FieldRow> velocityRows();
+    static FieldTableSpec velocityForm(FieldTableSpec spec);
     static const FieldTableSpec &pageSpec();
 };

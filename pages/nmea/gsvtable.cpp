@@ -8,8 +8,11 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QTableWidget>
 #include <QTimer>
+
+#include <algorithm>
 
 #include <cfloat>
 
@@ -66,6 +69,10 @@ double angleOrAbsent(QStringView field)
 // Whole numbers as sent ("45"), fractions where a receiver sends them ("45.5").
 QString numberText(double value)
 {
+    // Receivers send whole degrees and dB-Hz nearly always; those format as integers
+    // without the general double conversion, which dominated the page's cost.
+    if (value > -1e9 && value < 1e9 && double(int(value)) == value)
+        return QString::number(int(value));
     return QString::number(value, 'g', 8);
 }
 
@@ -231,7 +238,30 @@ void GSVTable::storeGroups(SystemStore &store, int signalId, int fieldCount)
         const double cn0 = m_fields.at(k + 2).toDouble(&measured);
         slot->cn0 = measured ? cn0 : kNoCn0;
         slot->reported = true;
+        formatTexts(*satellite);
     }
+}
+
+void GSVTable::formatTexts(Satellite &satellite)
+{
+    // Every tracked signal's C/N0 in the order the signals were first reported
+    // ("45/38"): what a dual-frequency receiver is checked by. Signals tracked
+    // without a measurement add nothing; none leaves the cell empty.
+    QString cn0;
+    for (int j = 0; j < satellite.signalCount; ++j) {
+        const double value = satellite.signalSlots[j].cn0;
+        if (value == kNoCn0)
+            continue;
+        if (!cn0.isEmpty())
+            cn0 += QLatin1Char('/');
+        cn0 += numberText(value);
+    }
+    satellite.texts = {
+        QString::number(satellite.prn),
+        satellite.elevation == kNoAngle ? QString() : numberText(satellite.elevation),
+        satellite.azimuth == kNoAngle ? QString() : numberText(satellite.azimuth),
+        cn0,
+    };
 }
 
 void GSVTable::clearTimeOut()
@@ -250,8 +280,11 @@ void GSVTable::clearTimeOut()
                 signal.reported = false;
                 satellite.signalSlots[keptSignals++] = signal;
             }
-            changed = changed || keptSignals != satellite.signalCount;
-            satellite.signalCount = keptSignals;
+            if (keptSignals != satellite.signalCount) {
+                changed = true;
+                satellite.signalCount = keptSignals;
+                formatTexts(satellite);
+            }
             if (keptSignals > 0)
                 store.satellites[kept++] = satellite;
         }
@@ -273,6 +306,9 @@ void GSVTable::rebuildTable(int changedSystem)
     if (total != table->rowCount())
         changedSystem = -1;
     table->setRowCount(total);
+    const int knownRows = qMin(int(m_rowSystems.size()), total);
+    m_rowSystems.resize(total);
+    std::fill(m_rowSystems.begin() + knownRows, m_rowSystems.end(), -1);
     m_form->lineEdit->setText(QString::number(total));
 
     // Items are reused from one rebuild to the next; only new rows get new ones.
@@ -286,10 +322,15 @@ void GSVTable::rebuildTable(int changedSystem)
         return item;
     };
 
+    // One change notice for the whole rewrite instead of one per cell: the view
+    // repaints once, and a rewrite of rows that shifted costs a fraction as much.
+    QAbstractItemModel *model = table->model();
+    const QSignalBlocker quietModel(model);
     int row = 0;
     for (int system = 0; system < kSystemCount; ++system) {
         const SystemInfo &info = kSystems[system];
         const QBrush colour(QColor(info.red, info.green, info.blue));
+        const QString systemName = QLatin1String(info.name);
         const SystemStore &store = m_stores[system];
         if (changedSystem >= 0 && system != changedSystem) {
             row += store.count;
@@ -297,30 +338,23 @@ void GSVTable::rebuildTable(int changedSystem)
         }
         for (int i = 0; i < store.count; ++i, ++row) {
             const Satellite &satellite = store.satellites[i];
-            // Every tracked signal's C/N0 in the order the signals were first
-            // reported ("45/38"): what a dual-frequency receiver is checked by.
-            // Signals tracked without a measurement add nothing; none leaves the cell empty.
-            QString cn0;
-            for (int j = 0; j < satellite.signalCount; ++j) {
-                const double value = satellite.signalSlots[j].cn0;
-                if (value == kNoCn0)
-                    continue;
-                if (!cn0.isEmpty())
-                    cn0 += QLatin1Char('/');
-                cn0 += numberText(value);
+            const QString *texts = satellite.texts.data();
+            const bool sameSystem = m_rowSystems[row] == system;
+            m_rowSystems[row] = system;
+            if (!sameSystem) {
+                QTableWidgetItem *systemItem = cell(row, 0);
+                systemItem->setText(systemName);
+                systemItem->setBackground(colour);
             }
-            const QString texts[] = {
-                QLatin1String(info.name),
-                QString::number(satellite.prn),
-                satellite.elevation == kNoAngle ? QString() : numberText(satellite.elevation),
-                satellite.azimuth == kNoAngle ? QString() : numberText(satellite.azimuth),
-                cn0,
-            };
-            for (int column = 0; column < 5; ++column) {
+            for (int column = 1; column < 5; ++column) {
                 QTableWidgetItem *item = cell(row, column);
-                item->setText(texts[column]);
-                item->setBackground(colour);
+                item->setText(texts[column - 1]);
+                if (!sameSystem)
+                    item->setBackground(colour);
             }
         }
     }
+    model->blockSignals(false);
+    if (total > 0)
+        emit model->dataChanged(model->index(0, 0), model->index(total - 1, 4));
 }

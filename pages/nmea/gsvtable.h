@@ -3,6 +3,8 @@
 #include "fieldtext.h"
 #include "msgbasewidget.h"
 
+#include <QVector>
+
 #include <array>
 #include <memory>
 
@@ -45,6 +47,9 @@ private:
         double azimuth;
         std::array<Signal, kMaxSignals> signalSlots;
         int signalCount;
+        // PRN, elevation, azimuth and C/N0 as shown, formatted when they change so
+        // that rebuilding the table formats nothing.
+        std::array<QString, 4> texts;
     };
     struct SystemStore
     {
@@ -54,6 +59,7 @@ private:
     struct Form;
 
     void storeGroups(SystemStore &store, int signalId, int fieldCount);
+    static void formatTexts(Satellite &satellite);
     // Rewrites the table from the stores. When only `system` changed and no row count
     // did, only that system's rows are rewritten: the other rows already show it.
     void rebuildTable(int system = -1);
@@ -62,4 +68,7 @@ private:
     std::array<SystemStore, kSystemCount> m_stores;
     QTimer *m_staleTimer = nullptr;
     FieldViews m_fields;
+    // The system each table row shows, so a row that keeps its system keeps its
+    // name cell and colour untouched.
+    QVector<int> m_rowSystems;
 };

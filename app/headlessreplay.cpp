@@ -5,9 +5,28 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QRegularExpression>
 #include <QStackedWidget>
 #include <QWidget>
+
+namespace {
+
+// The process's peak resident memory as the kernel reports it (Linux), or "n/a".
+QString peakRssText()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &line : status.readAll().split('\n')) {
+            if (line.startsWith("VmHWM:"))
+                return QString::number(line.mid(6).trimmed().split(' ').value(0).toLong() / 1024.0, 'f', 1)
+                    + QStringLiteral(" MB");
+        }
+    }
+    return QStringLiteral("n/a");
+}
+
+} // namespace
 
 int runHeadlessReplay(MessageViewModules &module, QIODevice &input, QTextStream &out)
 {
@@ -35,7 +54,7 @@ int runHeadlessReplay(MessageViewModules &module, QIODevice &input, QTextStream 
     out << "total lines: " << module.lineCount() << " (taken " << taken << ", refused "
         << module.lineCount() - taken << ")\n";
     out << "bytes: " << bytes << "  seconds: " << QString::number(seconds, 'f', 3)
-        << "  MB/s: " << QString::number(bytes / seconds / 1e6, 'f', 1) << '\n';
+        << "  MB/s: " << QString::number(bytes / seconds / 1e6, 'f', 1) << "  peak RSS: " << peakRssText() << '\n';
     out.flush();
     return 0;
 }

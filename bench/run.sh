@@ -60,4 +60,7 @@ out=${BENCH_OUT:-bench/results-latest.txt}
     echo
     "$bench" --mixed "$corpus/mixed.log" --bestpos "$corpus/bestpos.log" --nmea "$corpus/nmea.log" \
         --soak-mb "$soak_mb" "${gpsdecode_args[@]}" 2>/dev/null
+    echo
+    echo "the console itself (msgview --headless, mode 2, streaming the mixed corpus from a file):"
+    QT_QPA_PLATFORM=offscreen "$build/app/msgview" --headless --mode 2 --replay "$corpus/mixed.log" 2>/dev/null | tail -n 1
 } | tee "$out"

@@ -46,6 +46,17 @@ void LineChecksumTest::lines_data()
     QTest::newRow("checksum wider than 32 bits") << QString("#" + log + "*1" + crcHex.rightJustified(8, '0') + "\r\n") << false;
     // The run stops at a zero byte: only "AB" counts.
     QTest::newRow("zero byte ends the run") << QString::fromLatin1("$AB\0CD*03\r\n", 11) << true;
+    // The same rules inside the longer runs of a log: a zero byte or a character
+    // outside Latin-1 in the middle of the body.
+    const QByteArray prefix = "ABCDEFGHIJ";
+    QTest::newRow("log zero byte mid-body")
+        << QString::fromLatin1("#" + prefix + QByteArray(1, '\0') + "KLMNOPQRSTUV*"
+                               + QByteArray::number(bitwiseCrc32(prefix, 0, false), 16) + "\r\n")
+        << true;
+    QTest::newRow("log non latin-1 mid-body")
+        << (QString("#ABCDEF") + QChar(0x4e2d) + "GHIJKLMN*"
+            + QString::number(bitwiseCrc32("ABCDEF?GHIJKLMN", 0, false), 16) + "\r\n")
+        << true;
     // Characters outside Latin-1 count as '?'.
     QTest::newRow("non latin-1 character") << (QString("$A") + QChar(0x4e2d) + "*" + QString::number(quint8('A') ^ quint8('?'), 16) + "\r\n") << true;
 }

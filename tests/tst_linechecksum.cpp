@@ -49,10 +49,9 @@ void LineChecksumTest::lines_data()
     // The same rules inside the longer runs of a log: a zero byte or a character
     // outside Latin-1 in the middle of the body.
     const QByteArray prefix = "ABCDEFGHIJ";
-    QTest::newRow("log zero byte mid-body")
-        << QString::fromLatin1("#" + prefix + QByteArray(1, '\0') + "KLMNOPQRSTUV*"
-                               + QByteArray::number(bitwiseCrc32(prefix, 0, false), 16) + "\r\n")
-        << true;
+    const QByteArray zeroInBody = "#" + prefix + QByteArray(1, '\0') + "KLMNOPQRSTUV*"
+        + QByteArray::number(bitwiseCrc32(prefix, 0, false), 16) + "\r\n";
+    QTest::newRow("log zero byte mid-body") << QString::fromLatin1(zeroInBody.constData(), zeroInBody.size()) << true;
     QTest::newRow("log non latin-1 mid-body")
         << (QString("#ABCDEF") + QChar(0x4e2d) + "GHIJKLMN*"
             + QString::number(bitwiseCrc32("ABCDEF?GHIJKLMN", 0, false), 16) + "\r\n")

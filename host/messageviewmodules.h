@@ -51,6 +51,9 @@ signals:
     void messageViewTitleShow(QString nTitle);
 
 public slots:
+    // Received bytes. Text modes: call it on the GUI thread. Binary modes (4, 5): any
+    // thread may feed it, bytes from other threads in a text mode are dropped, and a
+    // feeding thread must have stopped before the module is destroyed.
     void onUpdateBuffer(QByteArray data);
 
 private:

@@ -3,9 +3,12 @@
 #include "nmeaepoch.h"
 
 #include <QDir>
+#include <QStackedWidget>
+#include <QTreeWidget>
 #include <QtTest>
 
 #include <atomic>
+#include <iterator>
 #include <thread>
 
 // A receiving thread feeds the module as fast as it can while the GUI thread keeps
@@ -17,6 +20,7 @@ class BinaryThreadsTest : public QObject
 private slots:
     void initTestCase();
     void feedingThreadSurvivesModeSwitches();
+    void moduleDestroyedWithDecodedTextsQueued();
 };
 
 void BinaryThreadsTest::initTestCase()
@@ -50,12 +54,13 @@ void BinaryThreadsTest::feedingThreadSurvivesModeSwitches()
         }
     });
 
-    const int modes[] = {4, 5, 0};
+    // Every kind of change: binary to binary, binary to text and back, text to text.
+    const int modes[] = {4, 5, 0, 5, 1, 4, 2, 7, 4};
     const char *const kinds[] = {"GGA", "GSV", "RMC", "GSA"};
     for (int round = 0; round < 60; ++round) {
-        const int mode = modes[round % 3];
+        const int mode = modes[round % int(std::size(modes))];
         h.module().addItemToTree(mode);
-        if (mode != 0) {
+        if (mode == 4 || mode == 5) {
             BinaryPage::page(h)->setClock(clock);
             QVERIFY(h.show(kinds[round % 4]));
         }
@@ -74,6 +79,31 @@ void BinaryThreadsTest::feedingThreadSurvivesModeSwitches()
     QVERIFY(h.show("GGA"));
     h.feed(nmeaEpoch(4));
     QCOMPARE(BinaryPage::cell(h, 1, 1), QString("081204.00"));
+}
+
+void BinaryThreadsTest::moduleDestroyedWithDecodedTextsQueued()
+{
+    // A receiving thread decodes and queues texts for the page; the host stops it and
+    // destroys the module before the GUI thread has delivered them.
+    auto *stack = new QStackedWidget;
+    auto *module = new MessageViewModules(stack, QStringLiteral("EN"));
+    module->addItemToTree(4);
+    QTreeWidget *tree = module->getTreeWidget();
+    const auto items = tree->findItems(QStringLiteral("GGA"), Qt::MatchExactly | Qt::MatchRecursive);
+    QVERIFY(!items.isEmpty());
+    emit tree->itemClicked(items.first(), 0);
+    stack->show();
+
+    std::thread feeder([module] {
+        for (int epoch = 1; epoch < 200; ++epoch)
+            module->onUpdateBuffer(nmeaEpoch(epoch));
+    });
+    feeder.join();
+    delete module;
+    delete stack;
+    // The queued texts' receiver is gone: delivering the queue must do nothing.
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
 }
 
 QTEST_MAIN(BinaryThreadsTest)

@@ -60,6 +60,7 @@ private slots:
     void modeAndLanguageAreRemembered();
     void tcpReceivesReconnectsAndSendsCommands();
     void serialThroughPseudoTerminalSurvivesDeviceLoss();
+    void simulatedReceiverOverTcpAndSerial();
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
@@ -188,6 +189,65 @@ void ConsoleTest::serialThroughPseudoTerminalSurvivesDeviceLoss()
     window.disconnectReceiver();
     socatAgain.terminate();
     socatAgain.waitForFinished();
+}
+
+// The simulated receiver in real time, as a user would try the console without
+// hardware: first as a TCP stream server that goes away and comes back, then on a
+// pseudo-terminal pair.
+void ConsoleTest::simulatedReceiverOverTcpAndSerial()
+{
+    MainWindow window("EN", 2);
+    window.show();
+    click(window, "Bestpos");
+
+    QProcess server;
+    server.setProcessChannelMode(QProcess::SeparateChannels);
+    server.start(RXSIM_BINARY, {"--mode", "2", "--listen", "0", "--duration", "600"});
+    QVERIFY(server.waitForStarted());
+    server.setReadChannel(QProcess::StandardError);
+    QTRY_VERIFY_WITH_TIMEOUT(server.canReadLine(), 10000);
+    const QString announced = QString::fromUtf8(server.readLine()).trimmed();
+    const QString port = announced.section(':', -1);
+    QVERIFY2(port.toInt() > 0, qPrintable(announced));
+
+    QString error;
+    window.connectTo(ReceiverConnection::fromAddress("tcp:127.0.0.1:" + port, &error));
+    QTRY_VERIFY_WITH_TIMEOUT(window.module()->lineCount() > 20, 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(!valueOnCurrentPage(window, 2).isEmpty(), 5000);
+
+    server.kill();
+    server.waitForFinished();
+    QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Retrying));
+    const quint64 beforeRestart = window.module()->lineCount();
+    QProcess again;
+    again.start(RXSIM_BINARY, {"--mode", "2", "--listen", port, "--duration", "600"});
+    QVERIFY(again.waitForStarted());
+    QVERIFY2(waitForState(window.connection(), ReceiverConnection::State::Open, 20000),
+             qPrintable(window.connection()->stateText()));
+    QTRY_VERIFY_WITH_TIMEOUT(window.module()->lineCount() > beforeRestart + 20, 15000);
+    window.disconnectReceiver();
+    again.kill();
+    again.waitForFinished();
+
+    if (QStandardPaths::findExecutable("socat").isEmpty())
+        QSKIP("socat is not installed");
+    QTemporaryDir dir;
+    const QString receiverEnd = dir.filePath("receiver"), consoleEnd = dir.filePath("console");
+    QProcess socat;
+    socat.start("socat", {QString("pty,raw,echo=0,link=%1").arg(receiverEnd), QString("pty,raw,echo=0,link=%1").arg(consoleEnd)});
+    QVERIFY(QTest::qWaitFor([&] { return QFile::exists(receiverEnd) && QFile::exists(consoleEnd); }, 5000));
+    window.connectTo(ReceiverConnection::fromAddress("serial:" + consoleEnd + "@460800", &error));
+    QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Open));
+    const quint64 beforeSerial = window.module()->lineCount();
+    QProcess receiver;
+    receiver.start(RXSIM_BINARY, {"--mode", "2", "--serial", receiverEnd, "--baud", "460800", "--duration", "600"});
+    QVERIFY(receiver.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(window.module()->lineCount() > beforeSerial + 20, 15000);
+    window.disconnectReceiver();
+    receiver.kill();
+    receiver.waitForFinished();
+    socat.terminate();
+    socat.waitForFinished();
 }
 
 void ConsoleTest::recordingReplaysToTheSamePages()

@@ -283,7 +283,7 @@ void Receiver::track(double t, const Vec3 &antenna, double lat, double lon, Epoc
                 lockStart = -(200.0 + 3000.0 * hashUniform(m_seed, lockKey, 64)); // locked before the run began
             stillLocked.insert(lockKey, lockStart);
             sig.lockTime = t - lockStart;
-            const double ambiguity = std::floor(hashUniform(m_seed, lockKey, quint64(lockStart * 10.0)) * 2e6) - 1e6;
+            const double ambiguity = std::floor(hashUniform(m_seed, lockKey, quint64(qint64(lockStart * 10.0))) * 2e6) - 1e6;
             sig.carrierPhase = -(range + e.clockBias - kLightSpeed * s.clockCorrection - s.ionoDelay * ionoScale
                                  + s.tropoDelay) / wavelength + ambiguity;
             sig.doppler = -(s.rangeRate + e.clockDrift) / wavelength;

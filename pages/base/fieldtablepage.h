@@ -23,7 +23,7 @@ struct FieldRow
     const char *description;
 };
 
-// A row table kept in a C array, as a list the spec can copy and adjust.
+// A row table kept in a C array, as a list a FieldTableSpec can copy and adjust.
 template <size_t N>
 QVector<FieldRow> fieldRows(const FieldRow (&rows)[N])
 {
@@ -142,7 +142,7 @@ private:
 
 // The page engine behind every single-record page: builds the form from a spec,
 // recognises and checks lines, writes fields into the value column, and re-applies
-// the spec's texts on retranslation.
+// the texts of its FieldTableSpec on retranslation.
 class FieldTablePage : public MsgBaseWidget
 {
     Q_OBJECT

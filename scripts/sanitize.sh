@@ -6,6 +6,10 @@
 # in this project's code and LSan ignores the offscreen platform's one leak.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+# Options for every process the tests start (the console and the simulator too).
+export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
+export TSAN_OPTIONS="ignore_noninstrumented_modules=1"
+export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 kinds=("$@")
 [ ${#kinds[@]} -eq 0 ] && kinds=(address thread)
 for kind in "${kinds[@]}"; do

@@ -12,16 +12,47 @@ if [ ! -f "$build/build.ninja" ]; then
 fi
 cmake --build "$build" -j"$(nproc)"
 export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=0}
+
+# Seeds from the simulated receiver: lines for the checksum, stretches of each mode's
+# stream (behind the three choice bytes) for the module and the decoder.
+rxsim="$build/tools/rxsim/rxsim"
+seeds="$build/seeds"
+if [ -x "$rxsim" ] && [ ! -d "$seeds" ]; then
+    mkdir -p "$seeds"/{fuzz_linechecksum,fuzz_module,fuzz_nmeadecoder,fuzz_descriptionfile}
+    for mode in 0 2 7 4; do
+        UBSAN_OPTIONS=halt_on_error=0 "$rxsim" --mode "$mode" --duration 40 --seed 7 --as-fast-as-possible \
+            > "$seeds/stream$mode" 2> /dev/null || true
+    done
+    i=0
+    while IFS= read -r line && [ $i -lt 400 ]; do
+        printf '%s\n' "$line" > "$seeds/fuzz_linechecksum/line$i"
+        i=$((i + 1))
+    done < <(awk 'NR % 7 == 0' "$seeds/stream2")
+    # The module target's first bytes choose the mode (indices 0 to 3: modes 0, 1, 2, 7),
+    # the visible page and the chunk size.
+    for choice in 0:0 1:2 2:2 3:7; do
+        index=${choice%%:*} mode=${choice##*:}
+        for part in 0 1 2 3 4 5; do
+            { printf "\\x0$index\\x$((part * 7 + 3))\\x40"; tail -c +$((part * 4096 + 1)) "$seeds/stream$mode" | head -c 4096; } \
+                > "$seeds/fuzz_module/mode${mode}_$part"
+        done
+    done
+    for part in 0 1 2 3 4 5 6 7; do
+        { printf '\x10'; tail -c +$((part * 4096 + 1)) "$seeds/stream4" | head -c 4096; } > "$seeds/fuzz_nmeadecoder/part$part"
+    done
+    cp MessageConfig/*.txt "$seeds/fuzz_descriptionfile/"
+fi
 for target in "$build"/fuzz/fuzz_*; do
     [ -f "$target" ] && [ -x "$target" ] || continue
     name=$(basename "$target")
     corpus="$build/corpus/$name"
     mkdir -p "$corpus" "$build/findings/$name"
-    seeds=()
-    [ -d "fuzz/corpus/$name" ] && seeds+=("fuzz/corpus/$name")
+    seed_dirs=()
+    [ -d "fuzz/corpus/$name" ] && seed_dirs+=("fuzz/corpus/$name")
+    [ -d "$seeds/$name" ] && seed_dirs+=("$seeds/$name")
     echo "== $name for ${seconds}s"
     "$target" -max_total_time="$seconds" -print_final_stats=1 -max_len=65536 -timeout=10 -rss_limit_mb=4096 \
-        -artifact_prefix="$build/findings/$name/" "$corpus" "${seeds[@]}" 2>&1 \
+        -artifact_prefix="$build/findings/$name/" "$corpus" "${seed_dirs[@]}" 2>&1 \
         | grep -E '^(stat::number_of_executed_units|stat::peak_rss_mb|==|SUMMARY|#[0-9]+ +DONE)' || true
     echo "findings: $(ls "$build/findings/$name" | wc -l)"
 done

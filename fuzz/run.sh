@@ -33,12 +33,12 @@ if [ -x "$rxsim" ] && [ ! -d "$seeds" ]; then
     for choice in 0:0 1:2 2:2 3:7; do
         index=${choice%%:*} mode=${choice##*:}
         for part in 0 1 2 3 4 5; do
-            { printf "\\x0$index\\x$((part * 7 + 3))\\x40"; tail -c +$((part * 4096 + 1)) "$seeds/stream$mode" | head -c 4096; } \
+            { printf "\\x0$index\\x$((part * 7 + 3))\\x40"; dd if="$seeds/stream$mode" bs=4096 skip="$part" count=1 status=none; } \
                 > "$seeds/fuzz_module/mode${mode}_$part"
         done
     done
     for part in 0 1 2 3 4 5 6 7; do
-        { printf '\x10'; tail -c +$((part * 4096 + 1)) "$seeds/stream4" | head -c 4096; } > "$seeds/fuzz_nmeadecoder/part$part"
+        { printf '\x10'; dd if="$seeds/stream4" bs=4096 skip="$part" count=1 status=none; } > "$seeds/fuzz_nmeadecoder/part$part"
     done
     cp MessageConfig/*.txt "$seeds/fuzz_descriptionfile/"
 fi

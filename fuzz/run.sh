@@ -34,7 +34,7 @@ if [ -x "$rxsim" ] && [ ! -d "$seeds" ]; then
         index=${choice%%:*} mode=${choice##*:}
         for part in 0 1 2 3 4 5; do
             { printf "\\x0$index\\x$((part * 7 + 3))\\x40"; dd if="$seeds/stream$mode" bs=4096 skip="$part" count=1 status=none; } \
-                > "$seeds/fuzz_module/mode${mode}_$part"
+                > "$seeds/fuzz_module/choice${index}_mode${mode}_$part"
         done
     done
     for part in 0 1 2 3 4 5 6 7; do

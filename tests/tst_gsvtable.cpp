@@ -92,7 +92,6 @@ private slots:
     void staleSignalsAndSatellitesAreSwept();
     void boundedStores();
     void hiddenPageAndSplitLine();
-    void englishForm();
 };
 
 void GsvTableTest::multiConstellationDualFrequency()
@@ -303,20 +302,6 @@ void GsvTableTest::hiddenPageAndSplitLine()
     for (char byte : line)
         h.feed(QByteArray(1, byte));
     QCOMPARE(satellites(h), QStringList{"GAL 3"});
-}
-
-void GsvTableTest::englishForm()
-{
-    {
-        ModuleHarness h(0);
-        const QTableWidget *table = h.table("GSV");
-        QStringList headers;
-        for (int column = 0; column < table->columnCount(); ++column)
-            headers << table->horizontalHeaderItem(column)->text();
-        QCOMPARE(headers, (QStringList{"Satellite system", "Satellite ID", "Elevation[deg]", "Azimuth[deg]", "C/N0[dBHz]"}));
-    }
-    ModuleHarness chinese(0, "CH");
-    QCOMPARE(chinese.table("GSV")->horizontalHeaderItem(2)->text(), QString("高度角[deg]"));
 }
 
 QTEST_MAIN(GsvTableTest)

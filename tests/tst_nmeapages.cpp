@@ -3,7 +3,6 @@
 
 #include "msgbasewidget.h"
 
-#include <QLabel>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -14,15 +13,6 @@ namespace {
 QByteArray numberedSentence(const QByteArray &address, int count, const QByteArray &prefix)
 {
     return sentence(count > 0 ? address + "," + numberedFields(count, prefix) : address);
-}
-
-bool hasIdeograph(const QString &text)
-{
-    for (QChar c : text) {
-        if (c.unicode() >= 0x4E00 && c.unicode() <= 0x9FFF)
-            return true;
-    }
-    return false;
 }
 
 quint64 acceptedBy(ModuleHarness &h, const QString &label)
@@ -39,7 +29,6 @@ class NmeaPagesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void catalogueOrderPerMode();
     void everyTalkerAndTheHighRateVariants();
     void fieldCountRules_data();
     void fieldCountRules();
@@ -49,21 +38,7 @@ private slots:
     void hiddenPageTakesItsLineWithoutUpdating();
     void corruptAndOversizedLinesAreRefusedQuietly();
     void lineSplitAcrossChunks();
-    void englishTexts_data();
-    void englishTexts();
-    void noSourceTextLeftInEnglishMode();
 };
-
-void NmeaPagesTest::catalogueOrderPerMode()
-{
-    const QStringList nmea = {"GGA", "GGAH", "VTG", "ZDA", "RMC", "RMCH", "GSV", "GLL", "GST", "HDT", "TRA"};
-    ModuleHarness idle(0);
-    QCOMPARE(idle.pageLabels(), nmea);
-    // HPR opens the Korvane list, right after the NMEA pages.
-    ModuleHarness hpl(1);
-    QCOMPARE(hpl.pageLabels().mid(0, 11), nmea);
-    QCOMPARE(hpl.pageLabels().value(11), QString("HPR"));
-}
 
 void NmeaPagesTest::everyTalkerAndTheHighRateVariants()
 {
@@ -236,63 +211,6 @@ void NmeaPagesTest::lineSplitAcrossChunks()
         QCOMPARE(h.cell("VTG", 0, 1), QString(i + 2 < int(std::size(cuts)) ? "" : "77.52"));
     }
     QCOMPARE(acceptedBy(h, "VTG"), quint64(1));
-}
-
-void NmeaPagesTest::englishTexts_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("english");
-    QTest::addColumn<QString>("chinese");
-    QTest::newRow("GGA utc") << "GGA" << 0 << 3 << "Coordinated Universal Time（UTC）" << "协调世界时";
-    QTest::newRow("GGA alt label") << "GGA" << 8 << 0 << "Alt" << "alt";
-    QTest::newRow("RMC speed unit") << "RMC" << 6 << 2 << "knots" << "knots（节）";
-    QTest::newRow("RMC untranslated") << "RMC" << 6 << 3 << "Speed Over Groud" << "Speed Over Groud";
-    QTest::newRow("VTG label line feed") << "VTG" << 2 << 0 << "Heading mag\n" << "Heading mag\n";
-    QTest::newRow("VTG degrees") << "VTG" << 2 << 2 << "degrees" << "度";
-    QTest::newRow("HPR heading") << "HPR" << 1 << 3 << "Heading angle" << "航向角";
-    QTest::newRow("TRA header") << "TRA" << -1 << 1 << "Value" << "值";
-}
-
-void NmeaPagesTest::englishTexts()
-{
-    QFETCH(QString, label);
-    QFETCH(int, row);
-    QFETCH(int, column);
-    QFETCH(QString, english);
-    QFETCH(QString, chinese);
-    for (const char *language : {"EN", "CH"}) {
-        ModuleHarness h(1, language);
-        QTableWidget *table = h.table(label);
-        QVERIFY(table);
-        const QString text = row < 0 ? table->horizontalHeaderItem(column)->text() : h.cell(label, row, column);
-        QCOMPARE(text, QString(language == QByteArray("EN") ? english : chinese));
-    }
-}
-
-// Every source text of these pages has its English, so nothing Chinese is left.
-void NmeaPagesTest::noSourceTextLeftInEnglishMode()
-{
-    ModuleHarness h(1);
-    QStringList labels = h.pageLabels().mid(0, 12);
-    for (const QString &label : labels) {
-        const MsgBaseWidget *page = h.page(label);
-        QVERIFY(page);
-        for (const QTableWidget *table : page->findChildren<QTableWidget *>()) {
-            for (int column = 0; column < table->columnCount(); ++column)
-                QVERIFY2(!hasIdeograph(table->horizontalHeaderItem(column)->text()), qPrintable(label));
-            for (int row = 0; row < table->rowCount(); ++row) {
-                for (int column : {0, 2, 3}) {
-                    const QTableWidgetItem *item = table->item(row, column);
-                    const QString text = item ? item->text() : QString();
-                    QVERIFY2(!hasIdeograph(text), qPrintable(label + ": " + text));
-                }
-            }
-        }
-        for (const QLabel *text : page->findChildren<QLabel *>())
-            QVERIFY2(!hasIdeograph(text->text()), qPrintable(label + ": " + text->text()));
-    }
 }
 
 QTEST_MAIN(NmeaPagesTest)

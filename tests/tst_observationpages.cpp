@@ -71,7 +71,6 @@ private slots:
     void obsvmScalesCNoAndNamesSignals();
     void signalNames_data();
     void signalNames();
-    void englishCountLabels();
 };
 
 void ObservationPagesTest::longLogThenShortLeavesNoStaleRows_data()
@@ -236,18 +235,6 @@ void ObservationPagesTest::signalNames()
     QFETCH(int, status);
     QFETCH(QString, name);
     QCOMPARE(trackingStatusSignalName(status), name);
-}
-
-void ObservationPagesTest::englishCountLabels()
-{
-    {
-        ModuleHarness en(2, "EN");
-        QCOMPARE(en.page("Range")->findChild<QLabel *>("label")->text(), QString("Total number of observations:"));
-        QCOMPARE(en.page("Obsvm")->findChild<QLabel *>("label")->text(), QString("Total number of observations:"));
-        QCOMPARE(en.table("Obsvm")->horizontalHeaderItem(7)->text(), QString("C/No"));
-    }
-    ModuleHarness ch(2, "CH");
-    QCOMPARE(ch.page("Obsvm")->findChild<QLabel *>("label")->text(), QString("观测值总数："));
 }
 
 QTEST_MAIN(ObservationPagesTest)

@@ -96,9 +96,6 @@ private slots:
     void statusDescriptionsAndRetranslation_data();
     void statusDescriptionsAndRetranslation();
     void statusWordsShownRaw();
-    void texts_data();
-    void texts();
-    void catalogueOrderAndModeFilters();
     void malformedLinesAreRefusedQuietly();
 };
 
@@ -330,74 +327,6 @@ void RecordPagesTest::statusWordsShownRaw()
     QCOMPARE(h.cell("Bestnav", 22, 1), QString("DOPPLER_VELOCITY"));
     QCOMPARE(h.cell("Bestnav", 21, 3), QString("Solution Status"));
     QCOMPARE(h.cell("Bestnav", 22, 3), QString("Velocity type"));
-}
-
-void RecordPagesTest::texts_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("text");
-    // Misspellings, blanks and line feeds of the English file are kept.
-    QTest::newRow("Time minues") << "EN" << "Time" << 8 << 3 << "UTC minues";
-    QTest::newRow("Inspva Heignt") << "EN" << "Inspva" << 4 << 3 << "Heignt";
-    QTest::newRow("AGRIC leading blank") << "EN" << "AGRIC" << 44 << 3 << " Latitude of the slave antenna:-90~90 degrees";
-    QTest::newRow("AGRIC label") << "EN" << "AGRIC" << 29 << 0 << "Lat";
-    QTest::newRow("Rawimux label") << "EN" << "Rawimux" << 1 << 0 << "IMU type";
-    QTest::newRow("Psrvel hyphen") << "EN" << "Psrvel" << 4 << 3 << "Horizontal-speed over ground";
-    QTest::newRow("Tdifvel degrees") << "EN" << "Tdifvel" << 5 << 3
-                                     << "Actual direction of motion over ground with respect to True North,in degrees";
-    QTest::newRow("Galutc GPST wording") << "EN" << "Galutc" << 0 << 3 << "Clock bias of GPST relative to UTC";
-    QTest::newRow("Bd3ion reserved") << "EN" << "Bd3ion" << 9 << 3 << "GPS week when calculating the ionosphere parameters";
-    QTest::newRow("Bestnav velocity") << "EN" << "BestnavH" << 27 << 3 << "Vertical speed,m/s";
-    // Texts without a translation show their source in English mode too.
-    QTest::newRow("Bestvel untranslated") << "EN" << "Bestvel" << 6 << 3
-                                          << "垂直速度，m/s，正值表示高度增加（向上），负值表示高度下降\n（向下）";
-    QTest::newRow("AGRIC untranslated label") << "EN" << "AGRIC" << 49 << 0 << "Speed_Headin\ng";
-    QTest::newRow("Bestxyz untranslated") << "EN" << "Bestxyz" << 23 << 3 << "L1/G1/B1/E1 信号参与解算的卫星\n数";
-    // Source texts in Chinese mode.
-    QTest::newRow("CH Time") << "CH" << "Time" << 8 << 3 << "UTC 分钟";
-    QTest::newRow("CH Heading blank") << "CH" << "KvnHeading" << 16 << 3 << "GPS, GLONASS 和 BDS 使用的信号掩码 ";
-    QTest::newRow("CH Heading2 no blank") << "CH" << "Heading2" << 16 << 3 << "GPS, GLONASS 和 BDS 使用的信号掩码";
-    QTest::newRow("CH Antenna reversed") << "CH" << "Antenna" << 3 << 0 << "reversed";
-    QTest::newRow("CH Rawimux label") << "CH" << "Rawimux" << 0 << 0 << "IMU 错误";
-}
-
-void RecordPagesTest::texts()
-{
-    QFETCH(QString, language);
-    QFETCH(QString, label);
-    QFETCH(int, row);
-    QFETCH(int, column);
-    QFETCH(QString, text);
-    ModuleHarness h(2, language);
-    QCOMPARE(h.cell(label, row, column), text);
-}
-
-void RecordPagesTest::catalogueOrderAndModeFilters()
-{
-    const QStringList order = {"AGRIC", "Bestpos", "Bestnav", "BestnavH", "Bestvel", "Bestxyz", "Heading",
-                               "KvnHeading", "Heading2", "KvnHeading2", "Matchpos", "Matchposh", "Psrpos",
-                               "Tdifpos", "Psrvel", "Tdifvel", "Gpsutc", "Bdsutc", "Galutc", "Gpsion", "Bdsion",
-                               "Bd3ion", "Galion", "Fwinfo", "Time", "Inspva", "Rawimux", "Antenna"};
-    auto ownLabels = [&order](const QStringList &labels) {
-        QStringList own;
-        for (const QString &label : labels) {
-            if (order.contains(label))
-                own << label;
-        }
-        return own;
-    };
-    ModuleHarness mode2(2);
-    QCOMPARE(ownLabels(mode2.pageLabels()), order);
-    QVERIFY(mode2.module().getTreeWidget()->findItems("ClockSwitch", Qt::MatchRecursive).isEmpty());
-
-    ModuleHarness mode1(1);
-    QStringList withoutModeTwo = order;
-    withoutModeTwo.removeAll("Heading2");
-    withoutModeTwo.removeAll("Psrpos");
-    QCOMPARE(ownLabels(mode1.pageLabels()), withoutModeTwo);
 }
 
 void RecordPagesTest::malformedLinesAreRefusedQuietly()

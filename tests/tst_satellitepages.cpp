@@ -65,7 +65,6 @@ class SatellitePagesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void catalogueRowsAndModes();
     void satvisRowsFollowThreeLeadingFields();
     void bestsatsShowsItsOwnCountField_data();
     void bestsatsShowsItsOwnCountField();
@@ -78,32 +77,7 @@ private slots:
     void dopRefusesShortLists();
     void rtkListsTheOtherSatellites();
     void rtkShortLineLeavesUnreadRows();
-    void englishTexts();
 };
-
-void SatellitePagesTest::catalogueRowsAndModes()
-{
-    const QStringList own = {"Satvis", "Satvis2", "Satxyz2", "Psrdop", "Psrdop2", "Bestsats", "Rtkdata",
-                             "Gpsephemeris", "Gloephem", "Bdsephem", "Galephem", "Range", "Rangeh", "Obsvm"};
-    const QStringList modeTwoOnly = {"Satvis2", "Satxyz2", "Range", "Rangeh"};
-    for (int mode : {1, 2}) {
-        ModuleHarness h(mode);
-        QStringList present;
-        for (const QString &label : h.pageLabels()) {
-            if (own.contains(label))
-                present << label;
-        }
-        QStringList expected = own;
-        if (mode == 1) {
-            for (const QString &label : modeTwoOnly)
-                expected.removeAll(label);
-        }
-        QCOMPARE(present, expected);
-        // Placed among the other Korvane pages, not merely appended.
-        QVERIFY(h.pageLabels().indexOf("Satvis") < h.pageLabels().indexOf("Bestpos"));
-        QVERIFY(h.pageLabels().indexOf("Psrdop2") < h.pageLabels().indexOf("Tdifpos"));
-    }
-}
 
 void SatellitePagesTest::satvisRowsFollowThreeLeadingFields()
 {
@@ -299,21 +273,6 @@ void SatellitePagesTest::rtkShortLineLeavesUnreadRows()
     QCOMPARE(tableCell(h, "Rtkdata", "tableWidget_1", 6, 1), QString("v0c4"));
     QCOMPARE(tableCell(h, "Rtkdata", "tableWidget_1", 29, 1), QString("v0c27"));
     QCOMPARE(tableCell(h, "Rtkdata", "tableWidget_2", 0, 0), QString());
-}
-
-void SatellitePagesTest::englishTexts()
-{
-    ModuleHarness h(2, "EN");
-    QCOMPARE(h.table("Satvis")->horizontalHeaderItem(3)->text(), QString("Height angle[deg]"));
-    QCOMPARE(h.page("Satvis2")->findChild<QLabel *>("label_2")->text(), QString("Satelite Number："));
-    QCOMPARE(h.page("Satvis2")->findChild<QLabel *>("label")->text(), QString());
-    QCOMPARE(h.table("Bestsats")->horizontalHeaderItem(1)->text(), QString("Satellite ID"));
-    QCOMPARE(tableCell(h, "Psrdop2", "tableWidget", 0, 3), QString("Geometric dilution of precision"));
-    QCOMPARE(h.table("Psrdop2", "tableWidget")->horizontalHeaderItem(1)->text(), QString("Value"));
-    QCOMPARE(tableCell(h, "Rtkdata", "tableWidget_1", 6, 3),
-             QString("Number of satellites of L1 L2 frequencies used in solution"));
-    // This one has no English.
-    QCOMPARE(tableCell(h, "Rtkdata", "tableWidget_1", 10, 3), QString("GPS, GLONASS 和 BDS 使用的\n信号掩码"));
 }
 
 QTEST_MAIN(SatellitePagesTest)

@@ -113,7 +113,6 @@ class TimingPagesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void timeCategoryHoldsTheElevenPagesInOrder();
     void eachPageTakesOnlyItsOwnSentence_data();
     void eachPageTakesOnlyItsOwnSentence();
     void recognition_data();
@@ -124,39 +123,8 @@ private slots:
     void svnumShowsOddFieldsWithoutCountTest();
     void misframedOrCorruptLinesRefused_data();
     void misframedOrCorruptLinesRefused();
-    void englishTextsKeepTheInterchangedDescriptions();
-    void sourceTextsKeepTheirLineFeeds();
     void bdtFollowsLanguageChange();
 };
-
-void TimingPagesTest::timeCategoryHoldsTheElevenPagesInOrder()
-{
-    ModuleHarness h(kTimingMode);
-    QStringList expected;
-    for (const TimingSentence &s : timingSentences())
-        expected << QString::fromLatin1(s.label);
-    const QStringList labels = h.pageLabels();
-    QVERIFY(labels.size() >= expected.size());
-    QCOMPARE(labels.mid(labels.size() - expected.size()), expected);
-
-    QTreeWidget *tree = h.module().getTreeWidget();
-    QTreeWidgetItem *time = nullptr;
-    for (int i = 0; i < tree->topLevelItemCount(); ++i) {
-        if (tree->topLevelItem(i)->text(0) == "Time")
-            time = tree->topLevelItem(i);
-    }
-    QVERIFY(time);
-    QVERIFY(!time->isHidden());
-    QStringList children;
-    for (int i = 0; i < time->childCount(); ++i)
-        children << time->child(i)->text(0);
-    QCOMPARE(children, expected);
-
-    // The timing pages belong to the timing mode only.
-    h.module().addItemToTree(2);
-    QVERIFY(time->isHidden());
-    QCOMPARE(time->childCount(), 0);
-}
 
 void TimingPagesTest::eachPageTakesOnlyItsOwnSentence_data()
 {
@@ -314,44 +282,6 @@ void TimingPagesTest::misframedOrCorruptLinesRefused()
     QCOMPARE(takenByAny(h), quint64(0));
     QVERIFY(!h.isMarked(label));
     QCOMPARE(h.cell(label, 0, 1), QString());
-}
-
-void TimingPagesTest::englishTextsKeepTheInterchangedDescriptions()
-{
-    const QString quality = "Time quality, accuracy levels are as follows: 0: unknown time, 1: rough (millisecond "
-                            "accuracy), 2: extrapolation (microsecond accuracy), 3: accuracy (3D normal positioning "
-                            "or fixed-point timing mode, nanosecond accuracy)";
-    const QString flag = "Leap second valid flag 0: unknown, 1: user configuration or default value, 2: "
-                         "synchronously obtained by other GNSS systems, 3: leap second parameters advertised in "
-                         "messages of this system";
-    ModuleHarness h(kTimingMode);
-    QCOMPARE(h.cell("BDSTIME", 0, 3), quality);
-    QCOMPARE(h.cell("BDSTIME", 7, 3), flag);
-    for (const char *label : {"GPSTIME", "GATTIME", "GLOTIME"}) {
-        const int last = h.table(label)->rowCount() - 1;
-        QCOMPARE(h.cell(label, 0, 0), QString("TimeQuality"));
-        QCOMPARE(h.cell(label, 0, 3), flag);
-        QCOMPARE(h.cell(label, last, 3), quality);
-    }
-    // One source text, translated per page.
-    QCOMPARE(h.cell("BDSTIME", 4, 3), QString("GPS Weeks, null if invalid"));
-    QCOMPARE(h.cell("GATTIME", 4, 3), QString("GPS weeks, null if invalid"));
-    QCOMPARE(h.cell("LSINFO", 3, 3), h.cell("LSINFO", 1, 3));
-    QCOMPARE(h.cell("TPFINFO", 4, 3), h.cell("TPFINFO", 3, 3));
-    QCOMPARE(h.cell("SVNUM", 4, 3), QString("qzs System Number of search satellite"));
-    QCOMPARE(h.cell("JAM", 21, 3), QString("Channel 6 interference detection status 3"));
-    QCOMPARE(h.table("JAM")->horizontalHeaderItem(0)->text(), QString("Parameter"));
-}
-
-void TimingPagesTest::sourceTextsKeepTheirLineFeeds()
-{
-    ModuleHarness h(kTimingMode, "CH");
-    const QString status = h.cell("TPFINFO", 0, 3);
-    QCOMPARE(status.count('\n'), 5);
-    QVERIFY(status.startsWith(QString::fromUtf8("当前的授时模式，包含位置优化状态\n0：")));
-    QVERIFY(status.endsWith(QString::fromUtf8("进入定点授时模式\n")));
-    QCOMPARE(h.cell("TPFINFO", 3, 2), QString::fromUtf8("°"));
-    QCOMPARE(h.cell("LSINFO", 3, 3), QString::fromUtf8("闰秒信息有效标志 0: 无效1: 有效"));
 }
 
 void TimingPagesTest::bdtFollowsLanguageChange()

@@ -106,7 +106,6 @@ void MainWindow::createModule()
     connect(m_module, &MessageViewModules::messageViewTitleShow, this,
             [this](const QString &title) { setWindowTitle(tr("Receiver messages - %1").arg(title)); });
     m_module->addItemToTree(m_mode);
-    routePageCommands();
 }
 
 void MainWindow::buildMenus()
@@ -173,7 +172,6 @@ void MainWindow::setMode(int mode)
         return;
     m_mode = mode;
     m_module->addItemToTree(mode);
-    routePageCommands();
     QSettings().setValue(QStringLiteral("mode"), mode);
     for (QAction *action : m_modeGroup->actions())
         action->setChecked(action->data().toInt() == mode);
@@ -189,16 +187,6 @@ void MainWindow::setLanguage(const QString &language)
     QSettings().setValue(QStringLiteral("language"), language);
     for (QAction *action : m_languageGroup->actions())
         action->setChecked(action->data().toString() == language);
-}
-
-void MainWindow::routePageCommands()
-{
-    for (int i = 0; i < m_stack->count(); ++i) {
-        QWidget *page = m_stack->widget(i);
-        if (page->metaObject()->indexOfSignal("sendCommand(int,QString,bool)") >= 0)
-            connect(page, SIGNAL(sendCommand(int,QString,bool)), this, SLOT(onPageCommand(int,QString,bool)),
-                    Qt::UniqueConnection);
-    }
 }
 
 void MainWindow::connectTo(std::unique_ptr<ReceiverConnection> connection)
@@ -250,13 +238,6 @@ bool MainWindow::sendCommandText(const QString &command)
     m_historyIndex = m_history.size();
     statusBar()->showMessage(tr("Sent: %1").arg(trimmed), 3000);
     return true;
-}
-
-void MainWindow::onPageCommand(int, QString cmd, bool isHex)
-{
-    if (!m_connection || !m_connection->canWrite())
-        return;
-    m_connection->write(isHex ? QByteArray::fromHex(cmd.toLatin1()) : cmd.toLatin1() + "\r\n");
 }
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)

@@ -13,21 +13,11 @@
 #include <QTextStream>
 
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
 // Sixty seconds of a mode-2 receiver recorded by rxsim when the console was built.
 constexpr char kDemoSession[] = ":/demo/rxsim-demo.log";
-
-bool hasOption(int argc, char **argv, const char *name)
-{
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], name) == 0)
-            return true;
-    }
-    return false;
-}
 
 bool openInput(QFile &file, const QString &path)
 {
@@ -58,37 +48,26 @@ int fail(const QString &message)
 
 int main(int argc, char **argv)
 {
-    // Headless runs need no display; choose the offscreen platform before Qt starts.
-    const bool headless = hasOption(argc, argv, "--headless") || hasOption(argc, argv, "--snapshot");
-    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("MessageView"));
-    QApplication::setApplicationName(QStringLiteral("msgview"));
-    // The library's debug lines (page deletion) are for developers; QT_LOGGING_RULES
-    // brings them back.
-    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
-        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-
-    // Recordings go where the user started the console, even if it later works from its
-    // own directory.
-    app.setProperty("launchDirectory", QDir::currentPath());
-    QSettings settings;
+    QCoreApplication::setOrganizationName(QStringLiteral("MessageView"));
+    QCoreApplication::setApplicationName(QStringLiteral("msgview"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(MSGVIEW_VERSION));
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Receiver message console: one live page per message kind.\n\n"
         "Connections: --connect serial:/dev/ttyUSB0@115200 | tcp:HOST:PORT | file:PATH[@BYTES_PER_SECOND] | stdin"));
-    parser.addHelpOption();
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption connectOption(QStringLiteral("connect"), QStringLiteral("Connect to a receiver at ADDRESS."),
                                            QStringLiteral("ADDRESS"));
     const QCommandLineOption replayOption(QStringLiteral("replay"),
                                           QStringLiteral("Replay receiver bytes from FILE ('-' reads standard input)."),
                                           QStringLiteral("FILE"));
     const QCommandLineOption modeOption(
-        QStringLiteral("mode"), QStringLiteral("Product mode: 0 NMEA, 1/2 NMEA and receiver logs, 4/5 binary, 7 timing."),
-        QStringLiteral("N"), settings.value(QStringLiteral("mode"), 2).toString());
-    const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language: EN or CH."),
-                                        QStringLiteral("EN|CH"), settings.value(QStringLiteral("language"), QStringLiteral("EN")).toString());
+        QStringLiteral("mode"),
+        QStringLiteral("Product mode: 0 NMEA, 1/2 NMEA and receiver logs, 4/5 binary, 7 timing (default: the last one, else 2)."),
+        QStringLiteral("N"));
+    const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language: EN or CH (default: the last one, else EN)."),
+                                        QStringLiteral("EN|CH"));
     const QCommandLineOption rateOption(QStringLiteral("rate"),
                                         QStringLiteral("Replay pace in bytes per second in the window (0: as fast as possible)."),
                                         QStringLiteral("BYTES"), QStringLiteral("11520"));
@@ -103,13 +82,43 @@ int main(int argc, char **argv)
                                             QStringLiteral("DIR"));
     parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, demoOption,
                        headlessOption, snapshotOption});
+
+    // Help and version are answered before a widget application looks for a display,
+    // and headless runs choose the offscreen platform before it does. Qt's own options
+    // (-platform, -style) are unknown here: a failed first reading waits for the full
+    // one below.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    if (parser.parse(arguments) && (parser.isSet(helpOption) || parser.isSet(versionOption))) {
+        QCoreApplication core(argc, argv);
+        parser.process(core); // prints and exits
+    }
+    const bool headless = parser.isSet(headlessOption) || parser.isSet(snapshotOption);
+    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
     parser.process(app);
+    // The library's debug lines (page deletion) are for developers; QT_LOGGING_RULES
+    // brings them back.
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+
+    // Recordings go where the user started the console, even if it later works from its
+    // own directory.
+    app.setProperty("launchDirectory", QDir::currentPath());
+    QSettings settings;
+    const QString modeText = parser.isSet(modeOption) ? parser.value(modeOption)
+                                                      : settings.value(QStringLiteral("mode"), 2).toString();
+    const QString languageText = parser.isSet(langOption)
+        ? parser.value(langOption)
+        : settings.value(QStringLiteral("language"), QStringLiteral("EN")).toString();
 
     bool modeOk = false;
-    const int mode = parser.value(modeOption).toInt(&modeOk);
+    const int mode = modeText.toInt(&modeOk);
     if (!modeOk)
         return fail(QStringLiteral("--mode needs a number"));
-    const QString language = parser.value(langOption).toUpper();
+    const QString language = languageText.toUpper();
 
     if (parser.isSet(headlessOption) || parser.isSet(snapshotOption)) {
         QFile input;

@@ -66,6 +66,8 @@ private slots:
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
+    void helpAndVersionNeedNoDisplay_data();
+    void helpAndVersionNeedNoDisplay();
 };
 
 void ConsoleTest::init()
@@ -340,6 +342,30 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
         QVERIFY2(!image.isNull() && image.width() > 100, qPrintable(png.fileName()));
     }
     QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
+}
+
+void ConsoleTest::helpAndVersionNeedNoDisplay_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("help") << "--help" << "--connect <ADDRESS>";
+    QTest::newRow("version") << "--version" << "msgview " MSGVIEW_VERSION "\n";
+}
+
+void ConsoleTest::helpAndVersionNeedNoDisplay()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, expected);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(name);
+    QProcess msgview;
+    msgview.setProcessEnvironment(environment);
+    msgview.start(MSGVIEW_BINARY, {option});
+    QVERIFY(msgview.waitForFinished(10000));
+    QCOMPARE(msgview.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(msgview.exitCode(), 0);
+    QVERIFY(QString::fromUtf8(msgview.readAllStandardOutput()).contains(expected));
 }
 
 QTEST_MAIN(ConsoleTest)

@@ -38,6 +38,20 @@ void useMessageConfigDirectory()
         QDir::setCurrent(QCoreApplication::applicationDirPath());
 }
 
+// Without a display Qt aborts when the window application starts. On Linux a window
+// needs an X11 or a Wayland display, or a platform named on purpose.
+bool canShowWindows(const QStringList &arguments)
+{
+#ifdef Q_OS_LINUX
+    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || arguments.contains(QStringLiteral("-platform"))
+        || arguments.contains(QStringLiteral("--platform"));
+#else
+    Q_UNUSED(arguments);
+    return true;
+#endif
+}
+
 int fail(const QString &message)
 {
     std::fprintf(stderr, "msgview: %s\n", qPrintable(message));
@@ -90,13 +104,18 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
-    if (parser.parse(arguments) && (parser.isSet(helpOption) || parser.isSet(versionOption))) {
+    const bool understood = parser.parse(arguments);
+    if (understood && (parser.isSet(helpOption) || parser.isSet(versionOption))) {
         QCoreApplication core(argc, argv);
         parser.process(core); // prints and exits
     }
     const bool headless = parser.isSet(headlessOption) || parser.isSet(snapshotOption);
     if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!headless && !canShowWindows(arguments))
+        return fail(understood ? QStringLiteral("no display to show the window on (DISPLAY is not set); "
+                                                "--headless and --snapshot need none")
+                               : parser.errorText());
     QApplication app(argc, argv);
     parser.process(app);
     // The library's debug lines (page deletion) are for developers; QT_LOGGING_RULES

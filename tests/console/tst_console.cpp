@@ -66,8 +66,8 @@ private slots:
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
-    void helpAndVersionNeedNoDisplay_data();
-    void helpAndVersionNeedNoDisplay();
+    void commandLineWithoutDisplay_data();
+    void commandLineWithoutDisplay();
 };
 
 void ConsoleTest::init()
@@ -344,28 +344,34 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
     QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
 }
 
-void ConsoleTest::helpAndVersionNeedNoDisplay_data()
+void ConsoleTest::commandLineWithoutDisplay_data()
 {
-    QTest::addColumn<QString>("option");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("help") << "--help" << "--connect <ADDRESS>";
-    QTest::newRow("version") << "--version" << "msgview " MSGVIEW_VERSION "\n";
+    QTest::newRow("help") << QStringList{"--help"} << 0 << "--connect <ADDRESS>";
+    QTest::newRow("version") << QStringList{"--version"} << 0 << "msgview " MSGVIEW_VERSION "\n";
+    QTest::newRow("window") << QStringList{"--mode", "0"} << 1 << "no display";
+    QTest::newRow("unknown option") << QStringList{"--mdoe", "2"} << 1 << "Unknown option 'mdoe'";
 }
 
-void ConsoleTest::helpAndVersionNeedNoDisplay()
+void ConsoleTest::commandLineWithoutDisplay()
 {
-    QFETCH(QString, option);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
     QFETCH(QString, expected);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
         environment.remove(name);
     QProcess msgview;
     msgview.setProcessEnvironment(environment);
-    msgview.start(MSGVIEW_BINARY, {option});
+    msgview.setProcessChannelMode(QProcess::MergedChannels);
+    msgview.start(MSGVIEW_BINARY, arguments);
     QVERIFY(msgview.waitForFinished(10000));
     QCOMPARE(msgview.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(msgview.exitCode(), 0);
-    QVERIFY(QString::fromUtf8(msgview.readAllStandardOutput()).contains(expected));
+    QCOMPARE(msgview.exitCode(), exitCode);
+    const QString output = QString::fromUtf8(msgview.readAll());
+    QVERIFY2(output.contains(expected), qPrintable(output));
 }
 
 QTEST_MAIN(ConsoleTest)

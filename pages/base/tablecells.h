@@ -27,8 +27,9 @@ bool splitRecordBody(const QString &line, FieldViews &fields);
 // texts, however many rows it fills.
 void createCellItems(QTableWidget *table, Qt::Alignment alignment);
 // Sizes every column whose values are wider than its header to those values, and
-// widens one too narrow for its header; the others keep their width. A list page does it once, on its first values: later
-// values are alike, and measuring every cell of every line would cost the hot path.
+// widens one too narrow for its header; the others keep their width. A page does it
+// once, on its first values: later values are alike, and measuring every cell of
+// every line would cost the hot path.
 void fitColumnsToLongValues(QTableWidget *table);
 // Empties every cell of rows 0 to rows - 1 (never past the table).
 void blankRows(QTableWidget *table, int rows);

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLoggingCategory>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTextStream>
@@ -118,10 +117,6 @@ int main(int argc, char **argv)
                                : parser.errorText());
     QApplication app(argc, argv);
     parser.process(app);
-    // The library's debug lines (page deletion) are for developers; QT_LOGGING_RULES
-    // brings them back.
-    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
-        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
     // Recordings go where the user started the console, even if it later works from its
     // own directory.

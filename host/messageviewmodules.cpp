@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QLoggingCategory>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QThread>
@@ -21,6 +22,10 @@ static void initMessageViewResources()
 }
 
 namespace {
+// The line written for every deleted page is for developers: off unless asked for
+// (QT_LOGGING_RULES="messageview.pages.debug=true").
+Q_LOGGING_CATEGORY(pageLog, "messageview.pages", QtWarningMsg)
+
 bool isBinaryMode(int mode)
 {
     return mode == 4 || mode == 5;
@@ -159,7 +164,7 @@ void MessageViewModules::clearMesWidgetList()
             if (m_stack)
                 m_stack->removeWidget(page);
             delete page;
-            qDebug() << "clearMesWidgetList" << QThread::currentThreadId();
+            qCDebug(pageLog) << "clearMesWidgetList" << QThread::currentThreadId();
             m_pages[i] = nullptr;
             m_binaryPage = nullptr;
         }

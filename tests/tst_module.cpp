@@ -1,3 +1,4 @@
+#include "loggedmessages.h"
 #include "messageviewmetaobjctx.h"
 #include "moduleharness.h"
 #include "msgbasewidget.h"
@@ -71,6 +72,7 @@ private slots:
     void statusVocabulariesMatchPrefixesInOrder();
     void languageSelectsTranslation();
     void styleSheetResourceIsVerbatim();
+    void pageDeletionIsLoggedOnlyWhenAsked();
 };
 
 void ModuleTest::treeHasItsCategoriesAndName()
@@ -375,6 +377,23 @@ void ModuleTest::styleSheetResourceIsVerbatim()
     QCOMPARE(sheet.count('\n'), sheet.count("\r\n"));
     QVERIFY(QFile::exists(":/language_Message_CH.qm"));
     QVERIFY(QFile::exists(":/language_Message_EN.qm"));
+}
+
+void ModuleTest::pageDeletionIsLoggedOnlyWhenAsked()
+{
+    ModuleHarness h(2);
+    {
+        LoggedMessages log;
+        h.module().addItemToTree(0);
+        QCOMPARE(log.texts(QtDebugMsg), QStringList());
+    }
+    QLoggingCategory::setFilterRules("messageview.pages.debug=true");
+    LoggedMessages log;
+    h.module().addItemToTree(3);
+    QLoggingCategory::setFilterRules(QString());
+    const QStringList lines = log.texts(QtDebugMsg);
+    QCOMPARE(lines.size(), 11);
+    QVERIFY(lines.first().startsWith("clearMesWidgetList"));
 }
 
 QTEST_MAIN(ModuleTest)

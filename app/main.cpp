@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -24,17 +23,6 @@ bool openInput(QFile &file, const QString &path)
         return file.open(stdin, QIODevice::ReadOnly);
     file.setFileName(path);
     return file.open(QIODevice::ReadOnly);
-}
-
-// The binary modes read their message descriptions from "MessageConfig" in the current
-// directory; started elsewhere, the console works from its own directory, where the
-// build and the installation put them. Called once every path of the command line has
-// been opened.
-void useMessageConfigDirectory()
-{
-    if (!QDir(QStringLiteral("MessageConfig")).exists()
-        && QDir(QCoreApplication::applicationDirPath()).exists(QStringLiteral("MessageConfig")))
-        QDir::setCurrent(QCoreApplication::applicationDirPath());
 }
 
 // Without a display Qt aborts when the window application starts. On Linux a window
@@ -118,9 +106,6 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     parser.process(app);
 
-    // Recordings go where the user started the console, even if it later works from its
-    // own directory.
-    app.setProperty("launchDirectory", QDir::currentPath());
     QSettings settings;
     const QString modeText = parser.isSet(modeOption) ? parser.value(modeOption)
                                                       : settings.value(QStringLiteral("mode"), 2).toString();
@@ -147,7 +132,6 @@ int main(int argc, char **argv)
         QTextStream out(stdout);
         if (parser.isSet(snapshotOption)) {
             const QString directory = QFileInfo(parser.value(snapshotOption)).absoluteFilePath();
-            useMessageConfigDirectory();
             return runSnapshot(module, stack, input, directory, out);
         }
         return runHeadlessReplay(module, input, out);
@@ -173,6 +157,5 @@ int main(int argc, char **argv)
             return fail(error);
         window.connectTo(std::move(connection));
     }
-    useMessageConfigDirectory();
     return app.exec();
 }

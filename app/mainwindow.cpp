@@ -257,7 +257,7 @@ bool MainWindow::startRecording(const QString &path)
 {
     stopRecording();
     const QString name = path.isEmpty()
-        ? QDir(QSettings().value(QStringLiteral("recordingDir"), qApp->property("launchDirectory").toString()).toString())
+        ? QDir(QSettings().value(QStringLiteral("recordingDir"), QDir::currentPath()).toString())
               .filePath(QStringLiteral("capture-%1.log").arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"))))
         : path;
     m_recording.setFileName(name);

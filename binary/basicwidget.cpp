@@ -120,7 +120,9 @@ void BasicWidget::showMessage(const QString &name)
     if (kind) {
         // Read on every selection: the files are small, and an edited file shows
         // the next time its message is chosen.
-        const QString path = messageDescriptionPath(name, m_suffix);
+        const QString directory =
+            m_messageConfigDirectory.isEmpty() ? defaultMessageConfigDirectory() : m_messageConfigDirectory;
+        const QString path = messageDescriptionPath(directory, name, m_suffix);
         readMessageDescriptionHeader(m_form->tableWidget, path);
         readMessageDescriptionRows(m_form->tableWidget, path);
     }

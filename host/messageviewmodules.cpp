@@ -226,6 +226,7 @@ void MessageViewModules::addItemToTree_NPL()
             }
         });
         page->setLanguageFlag(m_languageFlag);
+        page->setMessageConfigDirectory(m_messageConfigDirectory);
         page->fillMessageTree(m_korvaneBinaryItem, m_mode);
         // A receiving thread may already be feeding: publish the page under the lock.
         AnnotatedMutexLocker<QMutex> locker(&m_mutex);
@@ -242,6 +243,13 @@ void MessageViewModules::setTreeForeground()
         for (int j = 0; j < category->childCount(); ++j)
             category->child(j)->setForeground(0, Qt::gray);
     }
+}
+
+void MessageViewModules::setMessageConfigDirectory(const QString &dir)
+{
+    m_messageConfigDirectory = dir;
+    if (m_binaryPage)
+        static_cast<BasicWidget *>(m_binaryPage)->setMessageConfigDirectory(dir);
 }
 
 void MessageViewModules::changeStack(QTreeWidgetItem *item)

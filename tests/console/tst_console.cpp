@@ -66,6 +66,7 @@ private slots:
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
+    void binaryModeFindsDescriptionsFromAnywhere();
     void commandLineWithoutDisplay_data();
     void commandLineWithoutDisplay();
 };
@@ -342,6 +343,20 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
         QVERIFY2(!image.isNull() && image.width() > 100, qPrintable(png.fileName()));
     }
     QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
+}
+
+void ConsoleTest::binaryModeFindsDescriptionsFromAnywhere()
+{
+    QTemporaryDir elsewhere;
+    const QString previous = QDir::currentPath();
+    QDir::setCurrent(elsewhere.path());
+    MainWindow window("EN", 4);
+    window.show();
+    click(window, "GGA");
+    QDir::setCurrent(previous);
+    auto *table = window.stack()->currentWidget()->findChild<QTableWidget *>();
+    QCOMPARE(table->rowCount(), 15);
+    QCOMPARE(table->item(1, 0)->text(), QString("UTC time"));
 }
 
 void ConsoleTest::commandLineWithoutDisplay_data()

@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTextStream>
@@ -105,6 +106,9 @@ int main(int argc, char **argv)
                                : parser.errorText());
     QApplication app(argc, argv);
     parser.process(app);
+    // The library is quiet about the files it cannot load unless asked; the console's
+    // log (standard error) should say so.
+    QLoggingCategory::setFilterRules(QStringLiteral("messageview.files.warning=true"));
 
     QSettings settings;
     const QString modeText = parser.isSet(modeOption) ? parser.value(modeOption)

@@ -3,6 +3,7 @@
 #include "annotatedlocker.h"
 #include "fieldtablepage.h"
 #include "gnssmessagekinds.h"
+#include "loadfailure.h"
 #include "messagedescription.h"
 
 #include <QComboBox>
@@ -123,7 +124,8 @@ void BasicWidget::showMessage(const QString &name)
         const QString directory =
             m_messageConfigDirectory.isEmpty() ? defaultMessageConfigDirectory() : m_messageConfigDirectory;
         const QString path = messageDescriptionPath(directory, name, m_suffix);
-        readMessageDescriptionHeader(m_form->tableWidget, path);
+        if (!readMessageDescriptionHeader(m_form->tableWidget, path))
+            reportLoadFailure("message description", path);
         readMessageDescriptionRows(m_form->tableWidget, path);
     }
     blankValues();

@@ -2,6 +2,7 @@
 
 #include "annotatedlocker.h"
 #include "basicwidget.h"
+#include "loadfailure.h"
 #include "messageviewmetaobjctx.h"
 #include "msgbasewidget.h"
 
@@ -37,13 +38,11 @@ MessageViewModules::MessageViewModules(QStackedWidget *stack, QString language)
     , m_stack(stack)
 {
     initMessageViewResources();
-    if (language == QLatin1String("EN")) {
-        m_translator.load(QStringLiteral(":/language_Message_EN.qm"));
-        m_languageFlag = 0;
-    } else {
-        m_translator.load(QStringLiteral(":/language_Message_CH.qm"));
-        m_languageFlag = 1;
-    }
+    m_languageFlag = language == QLatin1String("EN") ? 0 : 1;
+    const QString translation =
+        m_languageFlag == 0 ? QStringLiteral(":/language_Message_EN.qm") : QStringLiteral(":/language_Message_CH.qm");
+    if (!m_translator.load(translation))
+        reportLoadFailure("translation", translation);
     QCoreApplication::installTranslator(&m_translator);
     initTreeWidget();
 }

@@ -1,4 +1,5 @@
 #include "binarypage.h"
+#include "loggedmessages.h"
 #include "moduleharness.h"
 #include "nmeaepoch.h"
 
@@ -312,7 +313,16 @@ void BinaryPageTest::missingDescriptionLeavesTheTable()
     ModuleHarness h(4);
     h.show("ZDA");
     h.feed(nmeaEpoch(1));
+    LoggedMessages log;
+    h.show("GST");
+    QCOMPARE(log.texts(QtWarningMsg), QStringList()); // quiet unless the host asks
+    QLoggingCategory::setFilterRules("messageview.files.warning=true");
     h.show("GLL");
+    h.show("ZDA");
+    h.show("GLL");
+    QLoggingCategory::setFilterRules(QString());
+    QCOMPARE(log.texts(QtWarningMsg).filter("GLL_EN.txt").size(), 1);
+    QCOMPARE(log.texts(QtWarningMsg).size(), 1);
     QCOMPARE(columnTexts(h, 0), QStringList({"Talker", "Time"}));
     QCOMPARE(header(h, 0), QString("P"));
     // Its values are blanked, and GLL records would fill the same rows.

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -13,21 +12,11 @@
 #include <QTextStream>
 
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
 // Sixty seconds of a mode-2 receiver recorded by rxsim when the console was built.
 constexpr char kDemoSession[] = ":/demo/rxsim-demo.log";
-
-bool hasOption(int argc, char **argv, const char *name)
-{
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], name) == 0)
-            return true;
-    }
-    return false;
-}
 
 bool openInput(QFile &file, const QString &path)
 {
@@ -37,15 +26,18 @@ bool openInput(QFile &file, const QString &path)
     return file.open(QIODevice::ReadOnly);
 }
 
-// The binary modes read their message descriptions from "MessageConfig" in the current
-// directory; started elsewhere, the console works from its own directory, where the
-// build and the installation put them. Called once every path of the command line has
-// been opened.
-void useMessageConfigDirectory()
+// Without a display Qt aborts when the window application starts. On Linux a window
+// needs an X11 or a Wayland display, or a platform named on purpose.
+bool canShowWindows(const QStringList &arguments)
 {
-    if (!QDir(QStringLiteral("MessageConfig")).exists()
-        && QDir(QCoreApplication::applicationDirPath()).exists(QStringLiteral("MessageConfig")))
-        QDir::setCurrent(QCoreApplication::applicationDirPath());
+#ifdef Q_OS_LINUX
+    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || arguments.contains(QStringLiteral("-platform"))
+        || arguments.contains(QStringLiteral("--platform"));
+#else
+    Q_UNUSED(arguments);
+    return true;
+#endif
 }
 
 int fail(const QString &message)
@@ -58,37 +50,26 @@ int fail(const QString &message)
 
 int main(int argc, char **argv)
 {
-    // Headless runs need no display; choose the offscreen platform before Qt starts.
-    const bool headless = hasOption(argc, argv, "--headless") || hasOption(argc, argv, "--snapshot");
-    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("MessageView"));
-    QApplication::setApplicationName(QStringLiteral("msgview"));
-    // The library's debug lines (page deletion) are for developers; QT_LOGGING_RULES
-    // brings them back.
-    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
-        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-
-    // Recordings go where the user started the console, even if it later works from its
-    // own directory.
-    app.setProperty("launchDirectory", QDir::currentPath());
-    QSettings settings;
+    QCoreApplication::setOrganizationName(QStringLiteral("MessageView"));
+    QCoreApplication::setApplicationName(QStringLiteral("msgview"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(MSGVIEW_VERSION));
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Receiver message console: one live page per message kind.\n\n"
         "Connections: --connect serial:/dev/ttyUSB0@115200 | tcp:HOST:PORT | file:PATH[@BYTES_PER_SECOND] | stdin"));
-    parser.addHelpOption();
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption connectOption(QStringLiteral("connect"), QStringLiteral("Connect to a receiver at ADDRESS."),
                                            QStringLiteral("ADDRESS"));
     const QCommandLineOption replayOption(QStringLiteral("replay"),
                                           QStringLiteral("Replay receiver bytes from FILE ('-' reads standard input)."),
                                           QStringLiteral("FILE"));
     const QCommandLineOption modeOption(
-        QStringLiteral("mode"), QStringLiteral("Product mode: 0 NMEA, 1/2 NMEA and receiver logs, 4/5 binary, 7 timing."),
-        QStringLiteral("N"), settings.value(QStringLiteral("mode"), 2).toString());
-    const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language: EN or CH."),
-                                        QStringLiteral("EN|CH"), settings.value(QStringLiteral("language"), QStringLiteral("EN")).toString());
+        QStringLiteral("mode"),
+        QStringLiteral("Product mode: 0 NMEA, 1/2 NMEA and receiver logs, 4/5 binary, 7 timing (default: the last one, else 2)."),
+        QStringLiteral("N"));
+    const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language: EN or CH (default: the last one, else EN)."),
+                                        QStringLiteral("EN|CH"));
     const QCommandLineOption rateOption(QStringLiteral("rate"),
                                         QStringLiteral("Replay pace in bytes per second in the window (0: as fast as possible)."),
                                         QStringLiteral("BYTES"), QStringLiteral("11520"));
@@ -103,13 +84,44 @@ int main(int argc, char **argv)
                                             QStringLiteral("DIR"));
     parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, demoOption,
                        headlessOption, snapshotOption});
+
+    // Help and version are answered before a widget application looks for a display,
+    // and headless runs choose the offscreen platform before it does. Qt's own options
+    // (-platform, -style) are unknown here: a failed first reading waits for the full
+    // one below.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const bool understood = parser.parse(arguments);
+    if (understood && (parser.isSet(helpOption) || parser.isSet(versionOption))) {
+        QCoreApplication core(argc, argv);
+        parser.process(core); // prints and exits
+    }
+    const bool headless = parser.isSet(headlessOption) || parser.isSet(snapshotOption);
+    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!headless && !canShowWindows(arguments))
+        return fail(understood ? QStringLiteral("no display to show the window on (DISPLAY is not set); "
+                                                "--headless and --snapshot need none")
+                               : parser.errorText());
+    QApplication app(argc, argv);
     parser.process(app);
+    // The library is quiet about the files it cannot load unless asked; the console's
+    // log (standard error) should say so.
+    QLoggingCategory::setFilterRules(QStringLiteral("messageview.files.warning=true"));
+
+    QSettings settings;
+    const QString modeText = parser.isSet(modeOption) ? parser.value(modeOption)
+                                                      : settings.value(QStringLiteral("mode"), 2).toString();
+    const QString languageText = parser.isSet(langOption)
+        ? parser.value(langOption)
+        : settings.value(QStringLiteral("language"), QStringLiteral("EN")).toString();
 
     bool modeOk = false;
-    const int mode = parser.value(modeOption).toInt(&modeOk);
+    const int mode = modeText.toInt(&modeOk);
     if (!modeOk)
         return fail(QStringLiteral("--mode needs a number"));
-    const QString language = parser.value(langOption).toUpper();
+    const QString language = languageText.toUpper();
 
     if (parser.isSet(headlessOption) || parser.isSet(snapshotOption)) {
         QFile input;
@@ -124,7 +136,6 @@ int main(int argc, char **argv)
         QTextStream out(stdout);
         if (parser.isSet(snapshotOption)) {
             const QString directory = QFileInfo(parser.value(snapshotOption)).absoluteFilePath();
-            useMessageConfigDirectory();
             return runSnapshot(module, stack, input, directory, out);
         }
         return runHeadlessReplay(module, input, out);
@@ -150,6 +161,5 @@ int main(int argc, char **argv)
             return fail(error);
         window.connectTo(std::move(connection));
     }
-    useMessageConfigDirectory();
     return app.exec();
 }

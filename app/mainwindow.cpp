@@ -106,7 +106,6 @@ void MainWindow::createModule()
     connect(m_module, &MessageViewModules::messageViewTitleShow, this,
             [this](const QString &title) { setWindowTitle(tr("Receiver messages - %1").arg(title)); });
     m_module->addItemToTree(m_mode);
-    routePageCommands();
 }
 
 void MainWindow::buildMenus()
@@ -173,7 +172,6 @@ void MainWindow::setMode(int mode)
         return;
     m_mode = mode;
     m_module->addItemToTree(mode);
-    routePageCommands();
     QSettings().setValue(QStringLiteral("mode"), mode);
     for (QAction *action : m_modeGroup->actions())
         action->setChecked(action->data().toInt() == mode);
@@ -189,16 +187,6 @@ void MainWindow::setLanguage(const QString &language)
     QSettings().setValue(QStringLiteral("language"), language);
     for (QAction *action : m_languageGroup->actions())
         action->setChecked(action->data().toString() == language);
-}
-
-void MainWindow::routePageCommands()
-{
-    for (int i = 0; i < m_stack->count(); ++i) {
-        QWidget *page = m_stack->widget(i);
-        if (page->metaObject()->indexOfSignal("sendCommand(int,QString,bool)") >= 0)
-            connect(page, SIGNAL(sendCommand(int,QString,bool)), this, SLOT(onPageCommand(int,QString,bool)),
-                    Qt::UniqueConnection);
-    }
 }
 
 void MainWindow::connectTo(std::unique_ptr<ReceiverConnection> connection)
@@ -252,13 +240,6 @@ bool MainWindow::sendCommandText(const QString &command)
     return true;
 }
 
-void MainWindow::onPageCommand(int, QString cmd, bool isHex)
-{
-    if (!m_connection || !m_connection->canWrite())
-        return;
-    m_connection->write(isHex ? QByteArray::fromHex(cmd.toLatin1()) : cmd.toLatin1() + "\r\n");
-}
-
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_commandLine && event->type() == QEvent::KeyPress && !m_history.isEmpty()) {
@@ -276,7 +257,7 @@ bool MainWindow::startRecording(const QString &path)
 {
     stopRecording();
     const QString name = path.isEmpty()
-        ? QDir(QSettings().value(QStringLiteral("recordingDir"), qApp->property("launchDirectory").toString()).toString())
+        ? QDir(QSettings().value(QStringLiteral("recordingDir"), QDir::currentPath()).toString())
               .filePath(QStringLiteral("capture-%1.log").arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"))))
         : path;
     m_recording.setFileName(name);

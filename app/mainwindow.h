@@ -48,8 +48,6 @@ private:
     void buildMenus();
     void onData(const QByteArray &bytes);
     void onConnectionState(ReceiverConnection::State state, const QString &text);
-    void onPageCommand(int index, QString cmd, bool isHex);
-    void routePageCommands();
     void updateStatus();
     void chooseSerialPort();
     void chooseTcpPeer();

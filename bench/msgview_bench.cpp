@@ -162,7 +162,7 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\nqt.qpa.*=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
     QCommandLineParser parser;
     parser.addHelpOption();
     const QCommandLineOption mixedOption(QStringLiteral("mixed"), QStringLiteral("Mode-2 mixed corpus."), QStringLiteral("FILE"));

@@ -3,6 +3,7 @@
 #include "annotatedlocker.h"
 #include "fieldtablepage.h"
 #include "gnssmessagekinds.h"
+#include "loadfailure.h"
 #include "messagedescription.h"
 
 #include <QComboBox>
@@ -120,8 +121,11 @@ void BasicWidget::showMessage(const QString &name)
     if (kind) {
         // Read on every selection: the files are small, and an edited file shows
         // the next time its message is chosen.
-        const QString path = messageDescriptionPath(name, m_suffix);
-        readMessageDescriptionHeader(m_form->tableWidget, path);
+        const QString directory =
+            m_messageConfigDirectory.isEmpty() ? defaultMessageConfigDirectory() : m_messageConfigDirectory;
+        const QString path = messageDescriptionPath(directory, name, m_suffix);
+        if (!readMessageDescriptionHeader(m_form->tableWidget, path))
+            reportLoadFailure("message description", path);
         readMessageDescriptionRows(m_form->tableWidget, path);
     }
     blankValues();

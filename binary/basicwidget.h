@@ -37,6 +37,8 @@ public:
 
     // 1 (Chinese) reads the "_CH.txt" description files, 0 the "_EN.txt" ones.
     void setLanguageFlag(int flag);
+    // The folder of the description files; empty: the default one, sought at each read.
+    void setMessageConfigDirectory(const QString &directory) { m_messageConfigDirectory = directory; }
     // Lists the message names: the NMEA kinds under the item given at construction,
     // the binary kinds under binaryItem. Mode 5 is the full-output product and lists
     // every binary kind; mode 4 is the navigation product, whose receiver outputs
@@ -70,6 +72,7 @@ private:
     QTreeWidgetItem *m_nmeaItem;
     GnssDecoderChoice m_decoder;
     QString m_suffix = QStringLiteral("_EN.txt");
+    QString m_messageConfigDirectory;
 
     // Recursive: with the bytes fed on the page's own thread, the list slot runs
     // inside the raw data entry, and both hold the lock.

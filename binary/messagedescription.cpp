@@ -1,10 +1,13 @@
 #include "messagedescription.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 #include <QTableWidget>
 
+#include <dlfcn.h>
 #include <fstream>
 #include <string>
 
@@ -23,9 +26,27 @@ QString lineText(std::string line, bool first)
 
 } // namespace
 
-QString messageDescriptionPath(const QString &messageName, const QString &languageSuffix)
+QString messageDescriptionPath(const QString &directory, const QString &messageName, const QString &languageSuffix)
 {
-    return QDir::currentPath() + QStringLiteral("/MessageConfig/") + messageName + languageSuffix;
+    return directory + QLatin1Char('/') + messageName + languageSuffix;
+}
+
+QString defaultMessageConfigDirectory()
+{
+    const QString name = QStringLiteral("MessageConfig");
+    if (QDir::current().exists(name))
+        return QDir::current().absoluteFilePath(name);
+    // The library's own file, found through one of its functions: the program when
+    // the library is linked into it.
+    static const QString besideLibrary = [&name] {
+        Dl_info info;
+        if (!dladdr(reinterpret_cast<void *>(&defaultMessageConfigDirectory), &info) || !info.dli_fname)
+            return QString();
+        return QFileInfo(QFile::decodeName(info.dli_fname)).absoluteDir().absoluteFilePath(name);
+    }();
+    if (!besideLibrary.isEmpty() && QFileInfo(besideLibrary).isDir())
+        return besideLibrary;
+    return QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(name);
 }
 
 bool readMessageDescriptionHeader(QTableWidget *table, const QString &path)

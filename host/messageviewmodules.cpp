@@ -2,11 +2,13 @@
 
 #include "annotatedlocker.h"
 #include "basicwidget.h"
+#include "loadfailure.h"
 #include "messageviewmetaobjctx.h"
 #include "msgbasewidget.h"
 
 #include <QApplication>
 #include <QDebug>
+#include <QLoggingCategory>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QThread>
@@ -21,6 +23,10 @@ static void initMessageViewResources()
 }
 
 namespace {
+// The line written for every deleted page is for developers: off unless asked for
+// (QT_LOGGING_RULES="messageview.pages.debug=true").
+Q_LOGGING_CATEGORY(pageLog, "messageview.pages", QtWarningMsg)
+
 bool isBinaryMode(int mode)
 {
     return mode == 4 || mode == 5;
@@ -32,13 +38,11 @@ MessageViewModules::MessageViewModules(QStackedWidget *stack, QString language)
     , m_stack(stack)
 {
     initMessageViewResources();
-    if (language == QLatin1String("EN")) {
-        m_translator.load(QStringLiteral(":/language_Message_EN.qm"));
-        m_languageFlag = 0;
-    } else {
-        m_translator.load(QStringLiteral(":/language_Message_CH.qm"));
-        m_languageFlag = 1;
-    }
+    m_languageFlag = language == QLatin1String("EN") ? 0 : 1;
+    const QString translation =
+        m_languageFlag == 0 ? QStringLiteral(":/language_Message_EN.qm") : QStringLiteral(":/language_Message_CH.qm");
+    if (!m_translator.load(translation))
+        reportLoadFailure("translation", translation);
     QCoreApplication::installTranslator(&m_translator);
     initTreeWidget();
 }
@@ -159,7 +163,7 @@ void MessageViewModules::clearMesWidgetList()
             if (m_stack)
                 m_stack->removeWidget(page);
             delete page;
-            qDebug() << "clearMesWidgetList" << QThread::currentThreadId();
+            qCDebug(pageLog) << "clearMesWidgetList" << QThread::currentThreadId();
             m_pages[i] = nullptr;
             m_binaryPage = nullptr;
         }
@@ -221,6 +225,7 @@ void MessageViewModules::addItemToTree_NPL()
             }
         });
         page->setLanguageFlag(m_languageFlag);
+        page->setMessageConfigDirectory(m_messageConfigDirectory);
         page->fillMessageTree(m_korvaneBinaryItem, m_mode);
         // A receiving thread may already be feeding: publish the page under the lock.
         AnnotatedMutexLocker<QMutex> locker(&m_mutex);
@@ -237,6 +242,13 @@ void MessageViewModules::setTreeForeground()
         for (int j = 0; j < category->childCount(); ++j)
             category->child(j)->setForeground(0, Qt::gray);
     }
+}
+
+void MessageViewModules::setMessageConfigDirectory(const QString &dir)
+{
+    m_messageConfigDirectory = dir;
+    if (m_binaryPage)
+        static_cast<BasicWidget *>(m_binaryPage)->setMessageConfigDirectory(dir);
 }
 
 void MessageViewModules::changeStack(QTreeWidgetItem *item)

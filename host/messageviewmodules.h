@@ -35,6 +35,10 @@ public:
     QTreeWidget *getTreeWidget();
     // Greys every message item again (clears the marks of received messages).
     void setTreeForeground();
+    // The folder of the binary modes' message description files (<kind>_EN.txt,
+    // <kind>_CH.txt). Empty, the default: "MessageConfig" in the current directory when
+    // there is one, else the one beside the library, else beside the program.
+    void setMessageConfigDirectory(const QString &dir);
 
     // Lines taken per page, in page order, labelled by tree text; and all lines cut.
     QList<QPair<QString, quint64>> acceptedLineCounts() const;
@@ -89,4 +93,5 @@ private:
     bool m_droppingLongLine = false;
     QVector<quint64> m_acceptedCounts;
     quint64 m_lineCount = 0;
+    QString m_messageConfigDirectory;
 };

@@ -1,4 +1,5 @@
 #include "binarypage.h"
+#include "loggedmessages.h"
 #include "moduleharness.h"
 #include "nmeaepoch.h"
 
@@ -257,25 +258,30 @@ void BinaryPageTest::descriptionFiles_data()
     QTest::addColumn<QStringList>("headers");
     QTest::addColumn<QStringList>("labels");
     QTest::addColumn<QStringList>("units");
+    // Told the directory, with none in the current one; else found in the current one.
+    QTest::addColumn<bool>("told");
 
     QTest::newRow("three fields a row, CRLF")
         << QByteArray("Name\tValue\tUnit\tNote\r\nTalker\t\tWho\r\nTime\ts\tWhen\r\n")
         << QStringList({"Name", "Value", "Unit", "Note"}) << QStringList({"Talker", "Time"})
-        << QStringList({"", "s"});
+        << QStringList({"", "s"}) << false;
     QTest::newRow("two fields stop the filling")
         << QByteArray("P\tV\tU\tD\nA\ta\t1\nB\tb\nC\tc\t3\n") << QStringList({"P", "V", "U", "D"})
-        << QStringList({"A", "", ""}) << QStringList({"a", "", ""});
+        << QStringList({"A", "", ""}) << QStringList({"a", "", ""}) << false;
     QTest::newRow("four fields stop the filling")
         << QByteArray("P\tV\tU\tD\nA\ta\t1\nB\tb\t2\t9\n") << QStringList({"P", "V", "U", "D"})
-        << QStringList({"A", ""}) << QStringList({"a", ""});
+        << QStringList({"A", ""}) << QStringList({"a", ""}) << false;
     QTest::newRow("header only") << QByteArray("P\tV\tU\tD\n") << QStringList({"P", "V", "U", "D"})
-                                 << QStringList() << QStringList();
+                                 << QStringList() << QStringList() << false;
     QTest::newRow("non-ASCII text")
         << QByteArray("\xef\xbb\xbf参数\t值\t单位\t描述\n航向\t°\t对地航向，以真北为参考 ü\n")
-        << QStringList({"参数", "值", "单位", "描述"}) << QStringList({"航向"}) << QStringList({"°"});
+        << QStringList({"参数", "值", "单位", "描述"}) << QStringList({"航向"}) << QStringList({"°"}) << false;
     QTest::newRow("wide header, empty fields kept")
         << QByteArray("A\t\tC\tD\tE\n\t\t\n") << QStringList({"A", "", "C", "D", "E"}) << QStringList({""})
-        << QStringList({""});
+        << QStringList({""}) << false;
+    QTest::newRow("told directory") << QByteArray("Name\tValue\tUnit\tNote\nTalker\t\tWho\n")
+                                    << QStringList({"Name", "Value", "Unit", "Note"}) << QStringList({"Talker"})
+                                    << QStringList({""}) << true;
 }
 
 void BinaryPageTest::descriptionFiles()
@@ -284,10 +290,13 @@ void BinaryPageTest::descriptionFiles()
     QFETCH(QStringList, headers);
     QFETCH(QStringList, labels);
     QFETCH(QStringList, units);
-    QTemporaryDir dir;
+    QFETCH(bool, told);
+    QTemporaryDir dir, elsewhere;
     writeDescription(dir, "VTG_EN.txt", content);
-    CurrentDirectory directory(dir.path());
+    CurrentDirectory directory(told ? elsewhere.path() : dir.path());
     ModuleHarness h(4);
+    if (told)
+        h.module().setMessageConfigDirectory(dir.filePath("MessageConfig"));
     h.show("VTG");
     QCOMPARE(table(h)->columnCount(), headers.size() < 4 ? 4 : headers.size());
     for (int column = 0; column < headers.size(); ++column)
@@ -304,7 +313,16 @@ void BinaryPageTest::missingDescriptionLeavesTheTable()
     ModuleHarness h(4);
     h.show("ZDA");
     h.feed(nmeaEpoch(1));
+    LoggedMessages log;
+    h.show("GST");
+    QCOMPARE(log.texts(QtWarningMsg), QStringList()); // quiet unless the host asks
+    QLoggingCategory::setFilterRules("messageview.files.warning=true");
     h.show("GLL");
+    h.show("ZDA");
+    h.show("GLL");
+    QLoggingCategory::setFilterRules(QString());
+    QCOMPARE(log.texts(QtWarningMsg).filter("GLL_EN.txt").size(), 1);
+    QCOMPARE(log.texts(QtWarningMsg).size(), 1);
     QCOMPARE(columnTexts(h, 0), QStringList({"Talker", "Time"}));
     QCOMPARE(header(h, 0), QString("P"));
     // Its values are blanked, and GLL records would fill the same rows.

@@ -46,6 +46,7 @@ private slots:
     void wrongFieldCountIsRefusedYetStartsABurst_data();
     void wrongFieldCountIsRefusedYetStartsABurst();
     void hiddenPageStillWipesAtBurstStart();
+    void longValuesFitTheirColumns();
 
 private:
     void addPages();
@@ -161,6 +162,15 @@ void EphemerisPagesTest::hiddenPageStillWipesAtBurstStart()
     h.feed(log(logBody("SOMELOGA", "1")) + ephemeris("GALEPHEMA", 38, "c"));
     QCOMPARE(accepted(h, "Galephem"), quint64(3));
     QCOMPARE(filledRows(h, "Galephem"), 0);
+}
+
+void EphemerisPagesTest::longValuesFitTheirColumns()
+{
+    ModuleHarness h(1);
+    h.show("Gpsephemeris");
+    h.feed(log(logBody("GPSEPHEMERISA", numberedFields(32, "a_").replace("a_8", "26559700.123456789"))));
+    QTableWidget *table = h.table("Gpsephemeris");
+    QVERIFY(table->fontMetrics().horizontalAdvance("26559700.123456789") < table->columnWidth(8));
 }
 
 QTEST_MAIN(EphemerisPagesTest)

@@ -1,3 +1,4 @@
+#include "loggedmessages.h"
 #include "messageviewmetaobjctx.h"
 #include "moduleharness.h"
 #include "msgbasewidget.h"
@@ -69,6 +70,7 @@ private slots:
     void statusVocabulariesMatchPrefixesInOrder_data();
     void statusVocabulariesMatchPrefixesInOrder();
     void languageSelectsTranslation();
+    void pageDeletionIsLoggedOnlyWhenAsked();
 };
 
 void ModuleTest::treeHasItsCategoriesAndName()
@@ -361,6 +363,23 @@ void ModuleTest::languageSelectsTranslation()
     }
     ModuleHarness chinese(0, "CH");
     QCOMPARE(chinese.table("GGA")->horizontalHeaderItem(0)->text(), QString("参数"));
+}
+
+void ModuleTest::pageDeletionIsLoggedOnlyWhenAsked()
+{
+    ModuleHarness h(2);
+    {
+        LoggedMessages log;
+        h.module().addItemToTree(0);
+        QCOMPARE(log.texts(QtDebugMsg), QStringList());
+    }
+    QLoggingCategory::setFilterRules("messageview.pages.debug=true");
+    LoggedMessages log;
+    h.module().addItemToTree(3);
+    QLoggingCategory::setFilterRules(QString());
+    const QStringList lines = log.texts(QtDebugMsg);
+    QCOMPARE(lines.size(), 11);
+    QVERIFY(lines.first().startsWith("clearMesWidgetList"));
 }
 
 QTEST_MAIN(ModuleTest)

@@ -75,6 +75,10 @@ bool EphemerisPage::parse(QString line)
         for (int column = 0; column < columns; ++column)
             m_table->item(m_filled, column)->setText(m_fields.at(column).toString());
         ++m_filled;
+        if (!m_columnsFitted) {
+            fitColumnsToLongValues(m_table);
+            m_columnsFitted = true;
+        }
     }
     return true;
 }

@@ -60,4 +60,5 @@ private:
     FieldViews m_fields;
     int m_filled = 0;
     bool m_burstOpen = false;
+    bool m_columnsFitted = false;
 };

@@ -195,6 +195,10 @@ void ListPage::fillRows(qint64 firstRow, int rows)
                                                                    : QString());
         }
     }
+    if (!m_columnsFitted && rows > 0 && firstRow < rowLimit) {
+        fitColumnsToLongValues(m_table);
+        m_columnsFitted = true;
+    }
 }
 
 void ListPage::blankPreviousRows()

@@ -140,4 +140,5 @@ private:
     // Rows gathered so far in the current group of lines.
     qint64 m_groupRows = 0;
     bool m_groupOpen = false;
+    bool m_columnsFitted = false;
 };

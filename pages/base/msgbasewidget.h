@@ -24,6 +24,7 @@ public:
     virtual bool parseRawData(QByteArray data) = 0;
 
     QTreeWidgetItem *treeItem() const { return m_treeItem; }
+    // Raw text of the page, made by the base constructor: part of the page interface hosts see.
     QTextDocument *textDocument() const { return m_textDocument; }
 
     // Status vocabularies: prefix match of the value against the receiver's
@@ -32,10 +33,13 @@ public:
     void describeSolutionStatus(QTableWidgetItem *item, const QString &value) const;
 
 signals:
+    // Emitted after the texts are set again: part of the page interface hosts see.
     void retranslate();
+    // A command for the receiver, sent by no page yet: part of the page interface hosts see.
     void sendCommand(int index, QString cmd, bool isHex);
 
 public slots:
+    // Empty, yet connectable by a host: part of the page interface hosts see.
     void onGetCurRecIndex(int index);
     virtual void onRetranslateUI();
 

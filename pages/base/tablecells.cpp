@@ -15,11 +15,23 @@ bool splitRecordBody(const QString &line, FieldViews &fields)
     return true;
 }
 
+QVariant ValueCell::data(int role) const
+{
+    if (role != Qt::ToolTipRole)
+        return QTableWidgetItem::data(role);
+    const QTableWidget *table = tableWidget();
+    const QTableWidgetItem *header = table ? table->horizontalHeaderItem(column()) : nullptr;
+    const QString value = text();
+    if (!header || table->fontMetrics().horizontalAdvance(value) <= table->fontMetrics().horizontalAdvance(header->text()))
+        return QVariant();
+    return value;
+}
+
 void createCellItems(QTableWidget *table, Qt::Alignment alignment)
 {
     for (int row = 0; row < table->rowCount(); ++row) {
         for (int column = 0; column < table->columnCount(); ++column) {
-            auto *item = new QTableWidgetItem;
+            auto *item = new ValueCell;
             item->setTextAlignment(alignment);
             table->setItem(row, column, item);
         }
@@ -32,6 +44,20 @@ void blankRows(QTableWidget *table, int rows)
     for (int row = 0; row < last; ++row) {
         for (int column = 0; column < table->columnCount(); ++column)
             table->item(row, column)->setText(QString());
+    }
+}
+
+void fitColumnsToLongValues(QTableWidget *table)
+{
+    QHeaderView *header = table->horizontalHeader();
+    for (int column = 0; column < table->columnCount(); ++column) {
+        // The view sizes a column to the wider of its values and its header; a column
+        // of short values that was wide enough for its header keeps its width.
+        const int width = header->sectionSize(column);
+        table->resizeColumnToContents(column);
+        const int fitted = header->sectionSize(column);
+        if (fitted <= header->sectionSizeHint(column) && fitted <= width)
+            header->resizeSection(column, width);
     }
 }
 

@@ -1,3 +1,4 @@
+#include "loggedmessages.h"
 #include "mainwindow.h"
 #include "messageviewmodules.h"
 
@@ -56,6 +57,7 @@ class ConsoleTest : public QObject
     Q_OBJECT
 private slots:
     void init();
+    void startsAndChangesModeQuietly();
     void treeClicksSetTitleAndModesRebuild();
     void modeAndLanguageAreRemembered();
     void tcpReceivesReconnectsAndSendsCommands();
@@ -64,11 +66,26 @@ private slots:
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
+    void binaryModeFindsDescriptionsFromAnywhere();
+    void commandLineWithoutDisplay_data();
+    void commandLineWithoutDisplay();
 };
 
 void ConsoleTest::init()
 {
     QSettings().clear();
+}
+
+void ConsoleTest::startsAndChangesModeQuietly()
+{
+    LoggedMessages log;
+    MainWindow window("EN", 2);
+    window.show();
+    window.setMode(1);
+    QStringList warnings = log.texts(QtWarningMsg);
+    // The offscreen platform says so for every shown window; a display does not.
+    warnings.removeAll("This plugin does not support propagateSizeHints()");
+    QCOMPARE(warnings, QStringList());
 }
 
 void ConsoleTest::treeClicksSetTitleAndModesRebuild()
@@ -326,6 +343,50 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
         QVERIFY2(!image.isNull() && image.width() > 100, qPrintable(png.fileName()));
     }
     QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
+}
+
+void ConsoleTest::binaryModeFindsDescriptionsFromAnywhere()
+{
+    QTemporaryDir elsewhere;
+    const QString previous = QDir::currentPath();
+    QDir::setCurrent(elsewhere.path());
+    MainWindow window("EN", 4);
+    window.show();
+    click(window, "GGA");
+    QDir::setCurrent(previous);
+    auto *table = window.stack()->currentWidget()->findChild<QTableWidget *>();
+    QCOMPARE(table->rowCount(), 15);
+    QCOMPARE(table->item(1, 0)->text(), QString("UTC time"));
+}
+
+void ConsoleTest::commandLineWithoutDisplay_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("help") << QStringList{"--help"} << 0 << "--connect <ADDRESS>";
+    QTest::newRow("version") << QStringList{"--version"} << 0 << "msgview " MSGVIEW_VERSION "\n";
+    QTest::newRow("window") << QStringList{"--mode", "0"} << 1 << "no display";
+    QTest::newRow("unknown option") << QStringList{"--mdoe", "2"} << 1 << "Unknown option 'mdoe'";
+}
+
+void ConsoleTest::commandLineWithoutDisplay()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, expected);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(name);
+    QProcess msgview;
+    msgview.setProcessEnvironment(environment);
+    msgview.setProcessChannelMode(QProcess::MergedChannels);
+    msgview.start(MSGVIEW_BINARY, arguments);
+    QVERIFY(msgview.waitForFinished(10000));
+    QCOMPARE(msgview.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(msgview.exitCode(), exitCode);
+    const QString output = QString::fromUtf8(msgview.readAll());
+    QVERIFY2(output.contains(expected), qPrintable(output));
 }
 
 QTEST_MAIN(ConsoleTest)

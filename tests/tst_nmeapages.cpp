@@ -39,13 +39,11 @@ class NmeaPagesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void catalogueOrderPerMode();
     void everyTalkerAndTheHighRateVariants();
     void fieldCountRules_data();
     void fieldCountRules();
     void realReceiverSentences_data();
     void realReceiverSentences();
-    void hprHasNoFirstCharacterTest();
     void hiddenPageTakesItsLineWithoutUpdating();
     void corruptAndOversizedLinesAreRefusedQuietly();
     void lineSplitAcrossChunks();
@@ -53,17 +51,6 @@ private slots:
     void englishTexts();
     void noSourceTextLeftInEnglishMode();
 };
-
-void NmeaPagesTest::catalogueOrderPerMode()
-{
-    const QStringList nmea = {"GGA", "GGAH", "VTG", "ZDA", "RMC", "RMCH", "GSV", "GLL", "GST", "HDT", "TRA"};
-    ModuleHarness idle(0);
-    QCOMPARE(idle.pageLabels(), nmea);
-    // HPR opens the Korvane list, right after the NMEA pages.
-    ModuleHarness hpl(1);
-    QCOMPARE(hpl.pageLabels().mid(0, 11), nmea);
-    QCOMPARE(hpl.pageLabels().value(11), QString("HPR"));
-}
 
 void NmeaPagesTest::everyTalkerAndTheHighRateVariants()
 {
@@ -177,21 +164,6 @@ void NmeaPagesTest::realReceiverSentences()
     const int rows = h.table(label)->rowCount();
     for (int row = 0; row < rows; ++row)
         QCOMPARE(h.cell(label, row, 1), QString(fields.value(row + 1)));
-}
-
-void NmeaPagesTest::hprHasNoFirstCharacterTest()
-{
-    ModuleHarness h(1);
-    const QByteArray fields = ",060559.00,236.07,-000.05,000.00,4,30,0.00,0000";
-    // A "#"-framed line with a valid CRC-32 and the formatter at index 3 is taken by
-    // the HPR page, which does not look at the first character; TRA refuses it.
-    h.show("HPR");
-    h.feed(log("GNHPR" + fields));
-    QCOMPARE(h.cell("HPR", 1, 1), QString("236.07"));
-    h.show("TRA");
-    h.feed(log("GNTRA" + fields));
-    QCOMPARE(h.cell("TRA", 1, 1), QString());
-    QVERIFY(!h.isMarked("TRA"));
 }
 
 void NmeaPagesTest::hiddenPageTakesItsLineWithoutUpdating()

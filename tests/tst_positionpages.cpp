@@ -28,7 +28,6 @@ private slots:
     void hiddenPageTakesLineWithoutUpdating();
     void statusDescriptionsOnSiblingPages_data();
     void statusDescriptionsOnSiblingPages();
-    void matchedposhLogsReachOnlyTheirOwnPage();
     void crossedDescriptionsStay();
     void retranslationRestoresStaticStatusTexts();
 };
@@ -112,18 +111,6 @@ void PositionPagesTest::statusDescriptionsOnSiblingPages()
     h.feed(ReceiverLines::log(logBody(log, "SOL_COMPUTED,WHATEVER" + QByteArray(",x").repeated(19))));
     QCOMPARE(h.cell(label, 0, 3), QString("Solution computed"));
     QCOMPARE(h.cell(label, 1, 3), QString("Integrated solution of INS and RTK float"));
-}
-
-void PositionPagesTest::matchedposhLogsReachOnlyTheirOwnPage()
-{
-    ModuleHarness h(2);
-    h.show("Matchposh");
-    // "#MATCHEDPOSA" (12 characters) is not a prefix of "#MATCHEDPOSHA", so the
-    // MATCHEDPOS page, offered the line first, passes it on.
-    h.feed(log(logBody("MATCHEDPOSHA", "SOL_COMPUTED,NARROW_INT" + QByteArray(",h").repeated(19))));
-    QCOMPARE(h.cell("Matchposh", 2, 1), QString("h"));
-    QVERIFY(h.isMarked("Matchposh"));
-    QVERIFY(!h.isMarked("Matchpos"));
 }
 
 void PositionPagesTest::crossedDescriptionsStay()

@@ -65,7 +65,6 @@ class SatellitePagesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void catalogueRowsAndModes();
     void satvisRowsFollowThreeLeadingFields();
     void bestsatsShowsItsOwnCountField_data();
     void bestsatsShowsItsOwnCountField();
@@ -80,30 +79,6 @@ private slots:
     void rtkShortLineLeavesUnreadRows();
     void englishTexts();
 };
-
-void SatellitePagesTest::catalogueRowsAndModes()
-{
-    const QStringList own = {"Satvis", "Satvis2", "Satxyz2", "Psrdop", "Psrdop2", "Bestsats", "Rtkdata",
-                             "Gpsephemeris", "Gloephem", "Bdsephem", "Galephem", "Range", "Rangeh", "Obsvm"};
-    const QStringList modeTwoOnly = {"Satvis2", "Satxyz2", "Range", "Rangeh"};
-    for (int mode : {1, 2}) {
-        ModuleHarness h(mode);
-        QStringList present;
-        for (const QString &label : h.pageLabels()) {
-            if (own.contains(label))
-                present << label;
-        }
-        QStringList expected = own;
-        if (mode == 1) {
-            for (const QString &label : modeTwoOnly)
-                expected.removeAll(label);
-        }
-        QCOMPARE(present, expected);
-        // Placed among the other Korvane pages, not merely appended.
-        QVERIFY(h.pageLabels().indexOf("Satvis") < h.pageLabels().indexOf("Bestpos"));
-        QVERIFY(h.pageLabels().indexOf("Psrdop2") < h.pageLabels().indexOf("Tdifpos"));
-    }
-}
 
 void SatellitePagesTest::satvisRowsFollowThreeLeadingFields()
 {

@@ -5,7 +5,6 @@
 
 #include <QTableWidget>
 #include <QTranslator>
-#include <QTreeWidget>
 #include <QtTest>
 
 using namespace ReceiverLines;
@@ -113,11 +112,8 @@ class TimingPagesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void timeCategoryHoldsTheElevenPagesInOrder();
     void eachPageTakesOnlyItsOwnSentence_data();
     void eachPageTakesOnlyItsOwnSentence();
-    void recognition_data();
-    void recognition();
     void lastFieldMayBeMissing_data();
     void lastFieldMayBeMissing();
     void ppsinfoNeedsEveryField();
@@ -128,35 +124,6 @@ private slots:
     void sourceTextsKeepTheirLineFeeds();
     void bdtFollowsLanguageChange();
 };
-
-void TimingPagesTest::timeCategoryHoldsTheElevenPagesInOrder()
-{
-    ModuleHarness h(kTimingMode);
-    QStringList expected;
-    for (const TimingSentence &s : timingSentences())
-        expected << QString::fromLatin1(s.label);
-    const QStringList labels = h.pageLabels();
-    QVERIFY(labels.size() >= expected.size());
-    QCOMPARE(labels.mid(labels.size() - expected.size()), expected);
-
-    QTreeWidget *tree = h.module().getTreeWidget();
-    QTreeWidgetItem *time = nullptr;
-    for (int i = 0; i < tree->topLevelItemCount(); ++i) {
-        if (tree->topLevelItem(i)->text(0) == "Time")
-            time = tree->topLevelItem(i);
-    }
-    QVERIFY(time);
-    QVERIFY(!time->isHidden());
-    QStringList children;
-    for (int i = 0; i < time->childCount(); ++i)
-        children << time->child(i)->text(0);
-    QCOMPARE(children, expected);
-
-    // The timing pages belong to the timing mode only.
-    h.module().addItemToTree(2);
-    QVERIFY(time->isHidden());
-    QCOMPARE(time->childCount(), 0);
-}
 
 void TimingPagesTest::eachPageTakesOnlyItsOwnSentence_data()
 {
@@ -192,36 +159,6 @@ void TimingPagesTest::eachPageTakesOnlyItsOwnSentence()
         expected = odd;
     }
     QCOMPARE(valueColumn(h, label), expected);
-}
-
-void TimingPagesTest::recognition_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("takenBy");
-    const auto values = [](const char *label) { return sentenceOf(label).values; };
-    QTest::newRow("GALTIME on GATTIME") << line("GALTIME", values("GATTIME")) << "GATTIME";
-    QTest::newRow("GATTIME on none") << line("GATTIME", values("GATTIME")) << "";
-    QTest::newRow("LSINFO without comma") << line("LSINFOA", values("LSINFO")) << "LSINFO";
-    QTest::newRow("any JAM name") << line("JAMMING", values("JAM")) << "JAM";
-    QTest::newRow("PPSINFO prefix") << line("PPSINFO2", values("PPSINFO")) << "PPSINFO";
-    QTest::newRow("FINFO from index 3") << line("GNFINFO", values("TPFINFO")) << "TPFINFO";
-    QTest::newRow("NUM from index 3") << line("GPNUM", values("SVNUM")) << "SVNUM";
-    QTest::newRow("TIMPOS comma compared") << line("TIMPOSX", values("TIMPOS")) << "";
-    QTest::newRow("no talker prefix") << line("GNBDSTIME", values("BDSTIME")) << "";
-    QTest::newRow("case-sensitive") << line("bdstime", values("BDSTIME")) << "";
-}
-
-void TimingPagesTest::recognition()
-{
-    QFETCH(QByteArray, line);
-    QFETCH(QString, takenBy);
-    ModuleHarness h(kTimingMode);
-    h.feed(line);
-    QCOMPARE(takenByAny(h), quint64(takenBy.isEmpty() ? 0 : 1));
-    if (!takenBy.isEmpty()) {
-        QCOMPARE(taken(h, takenBy), quint64(1));
-        QVERIFY(h.isMarked(takenBy));
-    }
 }
 
 void TimingPagesTest::lastFieldMayBeMissing_data()

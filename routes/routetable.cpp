@@ -12,40 +12,24 @@ namespace {
 // its kind's.
 struct Row : PageRoute
 {
-    constexpr Row comparing(int length) const
+    constexpr Row comparing(int length) const { return with(&PageRoute::comparedLength, length); }
+    constexpr Row at(int index) const { return with(&PageRoute::offset, index); }
+    constexpr Row onlyInMode(int mode) const { return with(&PageRoute::modeFilter, mode); }
+    constexpr Row checksumAfterTaking() const { return with(&PageRoute::checksumBeforeTaking, false); }
+    constexpr Row atLeast(int length) const { return with(&PageRoute::minimumLength, length); }
+
+private:
+    template <typename T>
+    constexpr Row with(T PageRoute::*field, T value) const
     {
-        Row row = *this;
-        row.comparedLength = length;
-        return row;
-    }
-    constexpr Row at(int index) const
-    {
-        Row row = *this;
-        row.offset = index;
-        return row;
-    }
-    constexpr Row onlyInMode(int mode) const
-    {
-        Row row = *this;
-        row.modeFilter = mode;
-        return row;
-    }
-    constexpr Row checksumAfterTaking() const
-    {
-        Row row = *this;
-        row.checksumBeforeTaking = false;
-        return row;
-    }
-    constexpr Row atLeast(int length) const
-    {
-        Row row = *this;
-        row.minimumLength = length;
-        return row;
+        Row changed = *this;
+        changed.*field = value;
+        return changed;
     }
 };
 
-constexpr Row row(const char *label, const char *pageClass, PageCategory category, const char *header, int offset,
-                  bool requiresDollar)
+constexpr Row makeRow(const char *label, const char *pageClass, PageCategory category, const char *header, int offset,
+                      bool requiresDollar)
 {
     const int length = int(std::char_traits<char>::length(header));
     return Row{{label, pageClass, category, 0, QLatin1String(header, length), offset, length, requiresDollar, true, 0}};
@@ -54,23 +38,23 @@ constexpr Row row(const char *label, const char *pageClass, PageCategory categor
 // "$", any two talker letters, then the sentence formatter.
 constexpr Row nmeaSentence(const char *label, const char *pageClass, const char *formatter)
 {
-    return row(label, pageClass, PageCategory::Nmea, formatter, 3, true);
+    return makeRow(label, pageClass, PageCategory::Nmea, formatter, 3, true);
 }
 
 constexpr Row korvaneLog(const char *label, const char *pageClass, const char *header)
 {
-    return row(label, pageClass, PageCategory::KorvaneAscii, header, 0, false);
+    return makeRow(label, pageClass, PageCategory::KorvaneAscii, header, 0, false);
 }
 
 // "$" and the sentence name.
 constexpr Row timingSentence(const char *label, const char *pageClass, const char *name)
 {
-    return row(label, pageClass, PageCategory::Timing, name, 1, true);
+    return makeRow(label, pageClass, PageCategory::Timing, name, 1, true);
 }
 
 constexpr Row unlistedPage(const char *pageClass, const char *header)
 {
-    return row(nullptr, pageClass, PageCategory::Unlisted, header, 0, false);
+    return makeRow(nullptr, pageClass, PageCategory::Unlisted, header, 0, false);
 }
 
 constexpr PageRoute kRoutes[] = {
@@ -82,8 +66,8 @@ constexpr PageRoute kRoutes[] = {
     // Ten characters compared over eleven: matches nothing.
     unlistedPage("HeadingTable2", "#HEADINGA,").comparing(11),
 
-    // The only page that refuses short lines before its header test (it changes
-    // nothing: seven characters are needed to compare the formatter anyway).
+    // The only page that refuses lines under seven characters before its header
+    // test, which needs seven anyway.
     nmeaSentence("GGA", "GGATable", "GGA,").atLeast(7),
     // The high-rate variants: four letters, no comma.
     nmeaSentence("GGAH", "GGATable", "GGAH").atLeast(7),
@@ -148,10 +132,11 @@ constexpr PageRoute kRoutes[] = {
     korvaneLog("Rangeh", "RangehTable", "#RANGEHA,").onlyInMode(2),
     korvaneLog("Obsvm", "ObsvmTable", "#OBSVMA,"),
 
-    // The name only: any sentence whose name begins with it.
+    // The name only, no comma: any sentence whose name begins with it.
     timingSentence("LSINFO", "LSINFO", "LSINFO"),
     // From index 3 like an NMEA formatter: "TP" is not looked at.
     timingSentence("TPFINFO", "tpfinfo", "FINFO,").at(3),
+    // The name only, as above.
     timingSentence("PPSINFO", "PPSTable", "PPSINFO"),
     timingSentence("BDSTIME", "BDT", "BDSTIME,"),
     timingSentence("GPSTIME", "GPT", "GPSTIME,"),
@@ -160,6 +145,7 @@ constexpr PageRoute kRoutes[] = {
     timingSentence("GATTIME", "GAT", "GALTIME,"),
     timingSentence("UTCTIME", "UTC", "UTCTIME,"),
     timingSentence("TIMPOS", "timepos", "TIMPOS,"),
+    // The name only, as above.
     timingSentence("JAM", "JAM", "JAM"),
     timingSentence("SVNUM", "svnum", "NUM,").at(3),
 };

@@ -3,6 +3,7 @@
 #include "moduleharness.h"
 #include "msgbasewidget.h"
 #include "receiverlines.h"
+#include "routetable.h"
 
 #include <QLabel>
 #include <QSignalSpy>
@@ -29,23 +30,6 @@ QStringList categoryTexts(QTreeWidget *tree, bool visibleOnly)
     return texts;
 }
 
-QStringList expectedLabels(int mode)
-{
-    QStringList labels;
-    auto add = [&](const MessageViewCatalogue &catalogue) {
-        for (int i = 0; i < catalogue.count; ++i) {
-            if (catalogue.entries[i].modeFilter == 0 || catalogue.entries[i].modeFilter == mode)
-                labels << catalogue.entries[i].label;
-        }
-    };
-    add(nmeaCatalogue);
-    if (mode == 1 || mode == 2)
-        add(korvaneAsciiCatalogue);
-    if (mode == 7)
-        add(timingCatalogue);
-    return labels;
-}
-
 } // namespace
 
 class ModuleTest : public QObject
@@ -62,8 +46,8 @@ private slots:
     void sameModeKeepsPagesAndBuffer();
     void modesWithoutPagesShowOnlyNmea_data();
     void modesWithoutPagesShowOnlyNmea();
-    void modesBuildTheirCatalogueEntriesInOrder_data();
-    void modesBuildTheirCatalogueEntriesInOrder();
+    void modesBuildTheRoutedPagesInOrder_data();
+    void modesBuildTheRoutedPagesInOrder();
     void shortIntroductionGivesNoTreeItem();
     void clicksBringPagesForwardAndRecolour();
     void setTreeForegroundClearsMarks();
@@ -231,25 +215,30 @@ void ModuleTest::modesWithoutPagesShowOnlyNmea()
         QCOMPARE(tree->topLevelItem(i)->childCount(), 0);
 }
 
-void ModuleTest::modesBuildTheirCatalogueEntriesInOrder_data()
+void ModuleTest::modesBuildTheRoutedPagesInOrder_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QStringList>("categories");
-    QTest::addColumn<int>("pages");
-    QTest::newRow("0") << 0 << QStringList({"NMEA"}) << 11;
-    QTest::newRow("1") << 1 << QStringList({"NMEA", "Korvane"}) << 11 + 37;
-    QTest::newRow("2") << 2 << QStringList({"NMEA", "Korvane"}) << 11 + 43;
-    QTest::newRow("7") << 7 << QStringList({"NMEA", "Time"}) << 11 + 11;
+    QTest::newRow("0") << 0 << QStringList({"NMEA"});
+    QTest::newRow("1") << 1 << QStringList({"NMEA", "Korvane"});
+    QTest::newRow("2") << 2 << QStringList({"NMEA", "Korvane"});
+    QTest::newRow("7") << 7 << QStringList({"NMEA", "Time"});
 }
 
-void ModuleTest::modesBuildTheirCatalogueEntriesInOrder()
+// Exactly the pages the route table offers the mode's lines to, in that order, each
+// under its category.
+void ModuleTest::modesBuildTheRoutedPagesInOrder()
 {
     QFETCH(int, mode);
     QFETCH(QStringList, categories);
-    QFETCH(int, pages);
     ModuleHarness h(mode);
-    QCOMPARE(h.pageCount(), pages);
-    QCOMPARE(h.pageLabels(), expectedLabels(mode));
+    const char *const kCategoryTexts[] = {"NMEA", "Korvane", "Time"};
+    QStringList routed, built;
+    for (const PageRoute *route : offeredRoutes(mode))
+        routed << QString(kCategoryTexts[int(route->category)]) + "/" + route->label;
+    for (const QString &label : h.pageLabels())
+        built << h.treeItem(label)->parent()->text(0) + "/" + label;
+    QCOMPARE(built, routed);
     QCOMPARE(categoryTexts(h.module().getTreeWidget(), true), categories);
     // The first page is current and the tree is expanded.
     if (h.pageCount() > 0)

@@ -34,7 +34,6 @@ private slots:
     void fieldCountRules();
     void realReceiverSentences_data();
     void realReceiverSentences();
-    void hprHasNoFirstCharacterTest();
     void hiddenPageTakesItsLineWithoutUpdating();
     void corruptAndOversizedLinesAreRefusedQuietly();
     void lineSplitAcrossChunks();
@@ -152,21 +151,6 @@ void NmeaPagesTest::realReceiverSentences()
     const int rows = h.table(label)->rowCount();
     for (int row = 0; row < rows; ++row)
         QCOMPARE(h.cell(label, row, 1), QString(fields.value(row + 1)));
-}
-
-void NmeaPagesTest::hprHasNoFirstCharacterTest()
-{
-    ModuleHarness h(1);
-    const QByteArray fields = ",060559.00,236.07,-000.05,000.00,4,30,0.00,0000";
-    // A "#"-framed line with a valid CRC-32 and the formatter at index 3 is taken by
-    // the HPR page, which does not look at the first character; TRA refuses it.
-    h.show("HPR");
-    h.feed(log("GNHPR" + fields));
-    QCOMPARE(h.cell("HPR", 1, 1), QString("236.07"));
-    h.show("TRA");
-    h.feed(log("GNTRA" + fields));
-    QCOMPARE(h.cell("TRA", 1, 1), QString());
-    QVERIFY(!h.isMarked("TRA"));
 }
 
 void NmeaPagesTest::hiddenPageTakesItsLineWithoutUpdating()

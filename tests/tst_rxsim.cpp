@@ -1,6 +1,5 @@
 #include "moduleharness.h"
 
-#include "lineframe.h"
 #include "receiver.h"
 #include "linechecksum.h"
 #include "pageroutes.h"
@@ -112,8 +111,6 @@ class RxsimTest : public QObject
 private slots:
     void everyLineIsTakenByItsPage_data();
     void everyLineIsTakenByItsPage();
-    void renamedLinesGoWhereThePagesSendThem_data();
-    void renamedLinesGoWhereThePagesSendThem();
     void sameSeedSameBytes();
     void faultsDoWhatTheySay_data();
     void faultsDoWhatTheySay();
@@ -171,40 +168,6 @@ void RxsimTest::everyLineIsTakenByItsPage()
             QVERIFY2(!sent.page.isEmpty(), sent.line.constData());
     }
     expectEveryLineOnItsPage(consoleMode, lines);
-}
-
-void RxsimTest::renamedLinesGoWhereThePagesSendThem_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QByteArray>("from");
-    QTest::addColumn<QByteArray>("to");
-    QTest::addColumn<QString>("page");
-    QTest::newRow("GSV of the combined talker") << 0 << QByteArray("$GPGSV,") << QByteArray("$GNGSV,") << "GSV";
-    QTest::newRow("GPSION of another format letter") << 1 << QByteArray("#GPSIONA,") << QByteArray("#GPSIONB,")
-                                                    << "Gpsion";
-    QTest::newRow("lower-case BESTPOS") << 1 << QByteArray("#BESTPOSA,") << QByteArray("#bestposa,") << QString();
-    QTest::newRow("GATTIME sentence") << 7 << QByteArray("$GALTIME,") << QByteArray("$GATTIME,") << QString();
-    QTest::newRow("LSINFO run on") << 7 << QByteArray("$LSINFO,") << QByteArray("$LSINFOX,") << "LSINFO";
-}
-
-// Lines the simulator does not send, made from ones it does with another name and a
-// fresh checksum: the console must agree with the simulator's rules on them too.
-void RxsimTest::renamedLinesGoWhereThePagesSendThem()
-{
-    QFETCH(int, mode);
-    QFETCH(QByteArray, from);
-    QFETCH(QByteArray, to);
-    QFETCH(QString, page);
-    QList<QByteArray> renamed;
-    for (const Simulator::SentLine &sent : simulate(settingsFor(mode), 6000).lines) {
-        if (!sent.line.startsWith(from))
-            continue;
-        const QByteArray body = to.mid(1) + sent.line.mid(from.size(), sent.line.indexOf('*') - from.size());
-        renamed << (to.startsWith('$') ? frameSentence(body) : frameLog(body));
-        QCOMPARE(pageForLine(mode, renamed.last()), page);
-    }
-    QVERIFY(!renamed.isEmpty());
-    expectEveryLineOnItsPage(mode, renamed);
 }
 
 void RxsimTest::sameSeedSameBytes()

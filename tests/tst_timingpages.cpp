@@ -5,7 +5,6 @@
 
 #include <QTableWidget>
 #include <QTranslator>
-#include <QTreeWidget>
 #include <QtTest>
 
 using namespace ReceiverLines;
@@ -115,8 +114,6 @@ class TimingPagesTest : public QObject
 private slots:
     void eachPageTakesOnlyItsOwnSentence_data();
     void eachPageTakesOnlyItsOwnSentence();
-    void recognition_data();
-    void recognition();
     void lastFieldMayBeMissing_data();
     void lastFieldMayBeMissing();
     void ppsinfoNeedsEveryField();
@@ -160,36 +157,6 @@ void TimingPagesTest::eachPageTakesOnlyItsOwnSentence()
         expected = odd;
     }
     QCOMPARE(valueColumn(h, label), expected);
-}
-
-void TimingPagesTest::recognition_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("takenBy");
-    const auto values = [](const char *label) { return sentenceOf(label).values; };
-    QTest::newRow("GALTIME on GATTIME") << line("GALTIME", values("GATTIME")) << "GATTIME";
-    QTest::newRow("GATTIME on none") << line("GATTIME", values("GATTIME")) << "";
-    QTest::newRow("LSINFO without comma") << line("LSINFOA", values("LSINFO")) << "LSINFO";
-    QTest::newRow("any JAM name") << line("JAMMING", values("JAM")) << "JAM";
-    QTest::newRow("PPSINFO prefix") << line("PPSINFO2", values("PPSINFO")) << "PPSINFO";
-    QTest::newRow("FINFO from index 3") << line("GNFINFO", values("TPFINFO")) << "TPFINFO";
-    QTest::newRow("NUM from index 3") << line("GPNUM", values("SVNUM")) << "SVNUM";
-    QTest::newRow("TIMPOS comma compared") << line("TIMPOSX", values("TIMPOS")) << "";
-    QTest::newRow("no talker prefix") << line("GNBDSTIME", values("BDSTIME")) << "";
-    QTest::newRow("case-sensitive") << line("bdstime", values("BDSTIME")) << "";
-}
-
-void TimingPagesTest::recognition()
-{
-    QFETCH(QByteArray, line);
-    QFETCH(QString, takenBy);
-    ModuleHarness h(kTimingMode);
-    h.feed(line);
-    QCOMPARE(takenByAny(h), quint64(takenBy.isEmpty() ? 0 : 1));
-    if (!takenBy.isEmpty()) {
-        QCOMPARE(taken(h, takenBy), quint64(1));
-        QVERIFY(h.isMarked(takenBy));
-    }
 }
 
 void TimingPagesTest::lastFieldMayBeMissing_data()

@@ -1,6 +1,7 @@
 #include "doppage.h"
 
 #include "linechecksum.h"
+#include "routetable.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
@@ -21,6 +22,7 @@ QTableWidget *namedTable(QWidget *parent, const char *name)
 DopPage::DopPage(const DopPageSpec &spec, QWidget *parent, const QString &introStr, QTreeWidgetItem *treeParent)
     : MsgBaseWidget(parent, introStr, treeParent)
     , m_spec(spec)
+    , m_route(routeOfPage(spec.context, introStr))
     , m_prnTable(namedTable(this, "tableWidget_Prn"))
     , m_parameters(namedTable(this, "tableWidget"), spec.context, spec.parameters)
 {
@@ -52,7 +54,7 @@ void DopPage::onRetranslateUI()
 
 bool DopPage::parse(QString line)
 {
-    if (!textAtEquals(line, 0, int(qstrlen(m_spec.header)), QLatin1String(m_spec.header)) || !checkLineChecksum(line))
+    if (!m_route.matchesHeader(line) || !checkLineChecksum(line))
         return false;
     if (!isVisible())
         return true;

@@ -7,6 +7,7 @@
 
 class QMetaObject;
 class QTableWidget;
+struct PageRoute;
 
 // A column of the DOP pages' satellite table: the PRNs of one constellation.
 struct PrnColumn
@@ -19,7 +20,6 @@ struct PrnColumn
 struct DopPageSpec
 {
     const char *context;
-    const char *header;
     QVector<FieldRow> parameters;
     QVector<PrnColumn> prnColumns;
     int prnRows;
@@ -44,6 +44,7 @@ private:
     int prnColumn(int prn) const;
 
     const DopPageSpec &m_spec;
+    const PageRoute &m_route;
     QTableWidget *m_prnTable = nullptr;
     FieldBlock m_parameters;
     FieldViews m_fields;

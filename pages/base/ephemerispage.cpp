@@ -1,6 +1,7 @@
 #include "ephemerispage.h"
 
 #include "linechecksum.h"
+#include "routetable.h"
 #include "tablecells.h"
 
 #include <QBoxLayout>
@@ -8,14 +9,13 @@
 #include <QMetaObject>
 #include <QTableWidget>
 
-EphemerisSpec EphemerisSpec::log(const QMetaObject &page, const char *header, QVector<const char *> columns)
+EphemerisSpec EphemerisSpec::log(const QMetaObject &page, QVector<const char *> columns)
 {
-    return EphemerisSpec(page, header, std::move(columns));
+    return EphemerisSpec(page, std::move(columns));
 }
 
-EphemerisSpec::EphemerisSpec(const QMetaObject &page, const char *header, QVector<const char *> columns)
+EphemerisSpec::EphemerisSpec(const QMetaObject &page, QVector<const char *> columns)
     : m_context(page.className())
-    , m_header(header)
     , m_columns(std::move(columns))
 {
 }
@@ -24,6 +24,7 @@ EphemerisPage::EphemerisPage(const EphemerisSpec &spec, QWidget *parent, const Q
                              QTreeWidgetItem *treeParent)
     : MsgBaseWidget(parent, introStr, treeParent)
     , m_spec(spec)
+    , m_route(routeOfPage(spec.m_context, introStr))
 {
     auto *layout = new QHBoxLayout(this);
     layout->setObjectName(QStringLiteral("horizontalLayout"));
@@ -48,9 +49,8 @@ void EphemerisPage::onRetranslateUI()
 
 bool EphemerisPage::parse(QString line)
 {
-    const QLatin1String header(m_spec.m_header);
-    const bool ownHeader = textAtEquals(line, 0, header.size(), header);
-    if (m_spec.m_headerAnywhere ? !line.contains(header) : !ownHeader)
+    const bool ownHeader = m_route.matchesHeader(line);
+    if (m_spec.m_headerAnywhere ? !line.contains(m_route.header) : !ownHeader)
         m_burstOpen = false;
     if (!ownHeader)
         return false;

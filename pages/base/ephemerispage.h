@@ -7,13 +7,14 @@
 
 class QMetaObject;
 class QTableWidget;
+struct PageRoute;
 
 // What an ephemeris page is: its log, its columns (field k of the log in column k)
 // and how many satellites of one burst it shows.
 class EphemerisSpec
 {
 public:
-    static EphemerisSpec log(const QMetaObject &page, const char *header, QVector<const char *> columns);
+    static EphemerisSpec log(const QMetaObject &page, QVector<const char *> columns);
 
     // Rows made by the constructor, and the satellites of one burst shown in them.
     EphemerisSpec &rows(int rowCount, int rowCap)
@@ -28,10 +29,9 @@ public:
 
 private:
     friend class EphemerisPage;
-    EphemerisSpec(const QMetaObject &page, const char *header, QVector<const char *> columns);
+    EphemerisSpec(const QMetaObject &page, QVector<const char *> columns);
 
     const char *m_context;
-    const char *m_header;
     QVector<const char *> m_columns;
     int m_rows = 0;
     int m_rowCap = 0;
@@ -56,6 +56,7 @@ public slots:
 
 private:
     const EphemerisSpec &m_spec;
+    const PageRoute &m_route;
     QTableWidget *m_table = nullptr;
     FieldViews m_fields;
     int m_filled = 0;

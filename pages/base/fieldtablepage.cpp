@@ -1,6 +1,7 @@
 #include "fieldtablepage.h"
 
 #include "linechecksum.h"
+#include "routetable.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -9,28 +10,22 @@
 #include <QMetaObject>
 #include <QTableWidget>
 
-FieldTableSpec FieldTableSpec::record(const QMetaObject &page, const char *header, QVector<FieldRow> rows)
+FieldTableSpec FieldTableSpec::record(const QMetaObject &page, QVector<FieldRow> rows)
 {
-    FieldTableSpec spec(page, Framing::Record, 0, header, std::move(rows));
+    FieldTableSpec spec(page, Framing::Record, std::move(rows));
     spec.m_resizeColumnsToContents = true;
     spec.m_columnWidths = {{1, 110}};
     return spec;
 }
 
-FieldTableSpec FieldTableSpec::sentence(const QMetaObject &page, int offset, const char *header,
-                                        QVector<FieldRow> rows)
+FieldTableSpec FieldTableSpec::sentence(const QMetaObject &page, QVector<FieldRow> rows)
 {
-    return FieldTableSpec(page, Framing::Sentence, offset, header, std::move(rows));
+    return FieldTableSpec(page, Framing::Sentence, std::move(rows));
 }
 
-FieldTableSpec::FieldTableSpec(const QMetaObject &page, Framing framing, int offset, const char *header,
-                               QVector<FieldRow> rows)
+FieldTableSpec::FieldTableSpec(const QMetaObject &page, Framing framing, QVector<FieldRow> rows)
     : m_context(page.className())
     , m_framing(framing)
-    , m_offset(offset)
-    , m_header(header)
-    , m_comparedLength(int(qstrlen(header)))
-    , m_requireDollar(framing == Framing::Sentence)
     , m_rows(std::move(rows))
 {
 }
@@ -63,14 +58,9 @@ FieldTablePage::FieldTablePage(const FieldTableSpec &spec, QWidget *parent, cons
                                QTreeWidgetItem *treeParent)
     : MsgBaseWidget(parent, introStr, treeParent)
     , m_spec(spec)
+    , m_route(routeOfPage(spec.m_context, introStr))
     , m_form(new Form)
-    , m_header(QLatin1String(spec.m_header))
 {
-    for (const FieldTableSpec::HeaderVariant &variant : spec.m_variants) {
-        if (introStr == QLatin1String(variant.introStr))
-            m_header = QLatin1String(variant.header);
-    }
-
     resize(spec.m_windowSize);
     switch (spec.m_layout) {
     case FormLayout::VBox: m_form->layout = new QVBoxLayout(this); break;
@@ -148,18 +138,9 @@ void FieldTablePage::onRetranslateUI()
     emit retranslate();
 }
 
-bool FieldTablePage::recognises(const QString &line) const
-{
-    if (line.size() < m_spec.m_minimumLength)
-        return false;
-    if (m_spec.m_requireDollar && !line.startsWith(QLatin1Char('$')))
-        return false;
-    return textAtEquals(line, m_spec.m_offset, m_spec.m_comparedLength, QStringView(m_header));
-}
-
 bool FieldTablePage::parse(QString line)
 {
-    if (!recognises(line) || !checkLineChecksum(line))
+    if (!m_route.matchesHeader(line) || !checkLineChecksum(line))
         return false;
     // A hidden page still owns its line (the tree marks it) but spends nothing on it.
     if (!isVisible())

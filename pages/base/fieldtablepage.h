@@ -12,6 +12,7 @@
 class QLayout;
 class QMetaObject;
 class QTableWidget;
+struct PageRoute;
 
 // One row of a field table: column 0 label, column 2 unit, column 3 description,
 // all source texts translated in the page's own class context. A null description
@@ -32,8 +33,9 @@ QVector<FieldRow> fieldRows(const FieldRow (&rows)[N])
 
 enum class FormLayout { VBox, HBox, Grid };
 
-// What a field-table page is: how it recognises its line, how fields map to rows,
-// and how its form looks. A page file is one of these plus its row table.
+// What a field-table page is: how fields map to rows and how its form looks. A
+// page file is one of these plus its row table; which lines are the page's is the
+// route table's business.
 class FieldTableSpec
 {
 public:
@@ -47,38 +49,18 @@ public:
         Unchecked,        // fixed field positions; rows without a field keep their text
     };
 
-    struct HeaderVariant
-    {
-        const char *introStr;
-        const char *header;
-    };
+    // A "#" log page: exactly rowCount + 1 fields after ';' (the last is the
+    // checksum), and the position pages' form: columns fitted, then the value
+    // column 110 wide.
+    static FieldTableSpec record(const QMetaObject &page, QVector<FieldRow> rows);
 
-    // A "#" log page: compares the header literal at index 0 over its own length,
-    // requires exactly rowCount + 1 fields after ';' (the last is the checksum) and
-    // follows the position pages' form: columns fitted, then the value column 110 wide.
-    static FieldTableSpec record(const QMetaObject &page, const char *header, QVector<FieldRow> rows);
-
-    // A "$" sentence page: the address field must start with '$' and the header
-    // literal must stand at `offset`; field i + 1 goes to row i; exactly rowCount + 2
-    // fields unless a count rule says otherwise. Column sizes are the table's defaults.
-    static FieldTableSpec sentence(const QMetaObject &page, int offset, const char *header,
-                                   QVector<FieldRow> rows);
+    // A "$" sentence page: field i + 1 goes to row i; exactly rowCount + 2 fields
+    // unless a count rule says otherwise. Column sizes are the table's defaults.
+    static FieldTableSpec sentence(const QMetaObject &page, QVector<FieldRow> rows);
 
     // Row texts shared with another page, adjusted where this page differs.
     FieldTableSpec &replaceRow(int row, FieldRow texts) { m_rows[row] = texts; return *this; }
     FieldTableSpec &appendRows(const QVector<FieldRow> &rows) { m_rows += rows; return *this; }
-
-    // Recognition.
-    FieldTableSpec &comparedLength(int length) { m_comparedLength = length; return *this; }
-    // Replaces the header when the page's introduction text equals introStr
-    // (later variants win, as they are applied in order).
-    FieldTableSpec &headerFor(const char *introStr, const char *header)
-    {
-        m_variants.append(HeaderVariant{introStr, header});
-        return *this;
-    }
-    FieldTableSpec &withoutDollarTest() { m_requireDollar = false; return *this; }
-    FieldTableSpec &minimumLength(int length) { m_minimumLength = length; return *this; }
 
     // Field mapping.
     FieldTableSpec &lastFieldOptional() { m_countRule = CountRule::LastMayBeMissing; return *this; }
@@ -112,17 +94,10 @@ public:
 
 private:
     friend class FieldTablePage;
-    FieldTableSpec(const QMetaObject &page, Framing framing, int offset, const char *header,
-                   QVector<FieldRow> rows);
+    FieldTableSpec(const QMetaObject &page, Framing framing, QVector<FieldRow> rows);
 
     const char *m_context;
     Framing m_framing;
-    int m_offset;
-    const char *m_header;
-    int m_comparedLength;
-    QVector<HeaderVariant> m_variants;
-    bool m_requireDollar;
-    int m_minimumLength = 0;
     QVector<FieldRow> m_rows;
     CountRule m_countRule = CountRule::Exact;
     int m_fieldStep = 1;
@@ -141,7 +116,7 @@ private:
 };
 
 // The page engine behind every single-record page: builds the form from a spec,
-// recognises and checks lines, writes fields into the value column, and re-applies
+// takes the lines of its route, writes fields into the value column, and re-applies
 // the texts of its FieldTableSpec on retranslation.
 class FieldTablePage : public MsgBaseWidget
 {
@@ -155,14 +130,9 @@ public:
     bool parseRawData(QByteArray) override { return false; }
 
     QTableWidget *table() const;
-    // The header this instance compares, after the introduction-text variants.
-    const QString &header() const { return m_header; }
 
 public slots:
     void onRetranslateUI() override;
-
-protected:
-    bool recognises(const QString &line) const;
 
 private:
     bool parseRecord(const QString &line);
@@ -171,8 +141,8 @@ private:
 
     struct Form;
     const FieldTableSpec &m_spec;
+    const PageRoute &m_route;
     std::unique_ptr<Form> m_form;
-    QString m_header;
     FieldViews m_fields;
 };
 

@@ -1,6 +1,7 @@
 #include "listpage.h"
 
 #include "linechecksum.h"
+#include "routetable.h"
 #include "trackingstatus.h"
 
 #include <QBoxLayout>
@@ -12,14 +13,13 @@
 
 #include <algorithm>
 
-ListPageSpec ListPageSpec::log(const QMetaObject &page, const char *header, QVector<ListColumn> columns)
+ListPageSpec ListPageSpec::log(const QMetaObject &page, QVector<ListColumn> columns)
 {
-    return ListPageSpec(page, header, std::move(columns));
+    return ListPageSpec(page, std::move(columns));
 }
 
-ListPageSpec::ListPageSpec(const QMetaObject &page, const char *header, QVector<ListColumn> columns)
+ListPageSpec::ListPageSpec(const QMetaObject &page, QVector<ListColumn> columns)
     : m_context(page.className())
-    , m_header(header)
     , m_columns(std::move(columns))
     , m_stride(m_columns.size())
 {
@@ -46,7 +46,9 @@ QString cellText(ListColumn::Format format, QStringView field)
 ListPage::ListPage(const ListPageSpec &spec, QWidget *parent, const QString &introStr, QTreeWidgetItem *treeParent)
     : MsgBaseWidget(parent, introStr, treeParent)
     , m_spec(spec)
+    , m_route(routeOfPage(spec.m_context, introStr))
 {
+    Q_ASSERT(m_route.checksumBeforeTaking == !spec.m_openWord);
     resize(spec.m_windowSize);
     auto *layout = new QVBoxLayout(this);
     layout->setObjectName(QStringLiteral("verticalLayout"));
@@ -111,9 +113,9 @@ void ListPage::onRetranslateUI()
 
 bool ListPage::parse(QString line)
 {
-    if (!textAtEquals(line, 0, int(qstrlen(m_spec.m_header)), QLatin1String(m_spec.m_header)))
+    if (!m_route.matchesHeader(line))
         return false;
-    return m_spec.m_openWord ? parseGroupLine(line) : parseLog(line);
+    return m_route.checksumBeforeTaking ? parseLog(line) : parseGroupLine(line);
 }
 
 bool ListPage::parseLog(const QString &line)

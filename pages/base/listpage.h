@@ -11,6 +11,7 @@ class QLabel;
 class QLineEdit;
 class QMetaObject;
 class QTableWidget;
+struct PageRoute;
 
 // One column of a list table: its header and how its field is shown.
 struct ListColumn
@@ -33,9 +34,9 @@ struct ListColumn
 class ListPageSpec
 {
 public:
-    // Recognises the header literal at index 0 over its own length; row r takes its
-    // columns from fields 1 + r, 2 + r, ... unless rowFields() says otherwise.
-    static ListPageSpec log(const QMetaObject &page, const char *header, QVector<ListColumn> columns);
+    // Row r takes its columns from fields 1 + r, 2 + r, ... unless rowFields() says
+    // otherwise.
+    static ListPageSpec log(const QMetaObject &page, QVector<ListColumn> columns);
 
     // The table's rows, made once by the constructor; a line fills no more.
     ListPageSpec &rows(int count) { m_rows = count; return *this; }
@@ -67,9 +68,10 @@ public:
         m_listName = listName;
         return *this;
     }
-    // The list is gathered from a group of lines, one per constellation: the line
-    // containing openWord starts it, wiping the old rows; the one containing
-    // closeWord ends it and shows the total. Only those two lines are checksummed.
+    // The list is gathered from a group of lines, one per constellation, which the
+    // page's route takes before any checksum test: the line containing openWord
+    // starts it, wiping the old rows; the one containing closeWord ends it and shows
+    // the total. Only those two lines are checksummed.
     ListPageSpec &gatheredBetween(const char *openWord, const char *closeWord)
     {
         m_openWord = openWord;
@@ -83,10 +85,9 @@ public:
 
 private:
     friend class ListPage;
-    ListPageSpec(const QMetaObject &page, const char *header, QVector<ListColumn> columns);
+    ListPageSpec(const QMetaObject &page, QVector<ListColumn> columns);
 
     const char *m_context;
-    const char *m_header;
     QVector<ListColumn> m_columns;
     int m_rows = 0;
     int m_stride;
@@ -129,6 +130,7 @@ private:
     void blankPreviousRows();
 
     const ListPageSpec &m_spec;
+    const PageRoute &m_route;
     QTableWidget *m_table = nullptr;
     QLineEdit *m_countEdit = nullptr;
     QVector<QLabel *> m_countLabels;

@@ -65,7 +65,7 @@ const FieldTableSpec &AgricTable::pageSpec()
         {QT_TR_NOOP("Remain_char_4"), nullptr, QT_TR_NOOP("保留")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#AGRICA,", fieldRows(rows))
+        FieldTableSpec::record(staticMetaObject, fieldRows(rows))
             .layout(FormLayout::Grid, "gridLayout", QMargins(6, 6, 3, 3))
             .window(632, 445)
             .valuesAligned(Qt::AlignHCenter | Qt::AlignVCenter)

@@ -11,7 +11,7 @@ const FieldTableSpec &AntennaTable::pageSpec()
         {QT_TR_NOOP("status3"), nullptr, QT_TR_NOOP("天线 3 的状态信息")},
         {QT_TR_NOOP("reversed"), nullptr, QT_TR_NOOP("保留字段")},
     };
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#ANTENNAA,", fieldRows(rows));
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, fieldRows(rows));
     return spec;
 }
 

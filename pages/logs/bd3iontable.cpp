@@ -19,7 +19,7 @@ const FieldTableSpec &Bd3ionTable::pageSpec()
         {QT_TR_NOOP("reserved"), nullptr, QT_TR_NOOP("解出电离层参数时的时间对应的GPS 周")},
     };
     // Seven characters compared, as on the GPS page: intentional.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#BD3ION", fieldRows(rows));
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, fieldRows(rows));
     return spec;
 }
 

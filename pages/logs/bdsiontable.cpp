@@ -6,7 +6,7 @@
 const FieldTableSpec &BdsionTable::pageSpec()
 {
     // Seven characters compared, as on the GPS page: intentional.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#BDSION", GpsionTable::ionosphereRows());
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, GpsionTable::ionosphereRows());
     return spec;
 }
 

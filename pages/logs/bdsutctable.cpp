@@ -6,7 +6,7 @@
 const FieldTableSpec &BdsutcTable::pageSpec()
 {
     // Seven characters compared, as on the GPS page: intentional.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#BDSUTC", GpsutcTable::utcRows());
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, GpsutcTable::utcRows());
     return spec;
 }
 

@@ -17,9 +17,8 @@ const FieldTableSpec &BestnavTable::pageSpec()
         {QT_TR_NOOP("Horspd std"), "", QT_TR_NOOP("水平速度标准差")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#BESTNAVA,", BestposTable::bestPositionRows())
+        FieldTableSpec::record(staticMetaObject, BestposTable::bestPositionRows())
             .appendRows(fieldRows(velocityRows))
-            .headerFor("BestnavH", "#BESTNAVHA")
             .layout(FormLayout::VBox, "verticalLayout", QMargins(6, 6, 3, 3))
             .window(1078, 798)
             .valuesAligned(Qt::AlignRight | Qt::AlignVCenter)

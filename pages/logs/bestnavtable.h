@@ -3,7 +3,7 @@
 #include "fieldtablepage.h"
 
 // BESTNAV and BESTNAVH: the best position followed by the best velocity. One class
-// serves both logs; the catalogue label picks the header an instance takes.
+// serves both logs; the label an instance is made under picks its route.
 class BestnavTable : public FieldTablePage
 {
     Q_OBJECT

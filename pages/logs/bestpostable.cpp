@@ -33,7 +33,7 @@ QVector<FieldRow> BestposTable::bestPositionRows()
 const FieldTableSpec &BestposTable::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#BESTPOSA,", bestPositionRows())
+        FieldTableSpec::record(staticMetaObject, bestPositionRows())
             .layout(FormLayout::VBox, "verticalLayout", QMargins(6, 6, 3, 3))
             .window(1078, 798)
             .valuesAligned(Qt::AlignRight | Qt::AlignVCenter)

@@ -3,7 +3,7 @@
 const ListPageSpec &BestsatsTable::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#BESTSATSA,",
+        ListPageSpec::log(staticMetaObject,
                           {
                               {QT_TR_NOOP("卫星系统")},
                               {QT_TR_NOOP("卫星ID号")},

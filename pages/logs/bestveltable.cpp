@@ -26,16 +26,16 @@ FieldTableSpec BestvelTable::velocityForm(FieldTableSpec spec)
         .statusCells(true);
 }
 
-FieldTableSpec BestvelTable::velocityPage(const QMetaObject &page, const char *header)
+FieldTableSpec BestvelTable::velocityPage(const QMetaObject &page)
 {
-    return velocityForm(FieldTableSpec::record(page, header, velocityRows())
+    return velocityForm(FieldTableSpec::record(page, velocityRows())
                             .replaceRow(6, {QT_TR_NOOP("vert spd"), QT_TR_NOOP("m/s"),
                                             QT_TR_NOOP("垂直速度，m/s，正值表示高度增加（向上），负值表示高度下降（向下）")}));
 }
 
 const FieldTableSpec &BestvelTable::pageSpec()
 {
-    static const FieldTableSpec spec = velocityForm(FieldTableSpec::record(staticMetaObject, "#BESTVELA,", velocityRows()));
+    static const FieldTableSpec spec = velocityForm(FieldTableSpec::record(staticMetaObject, velocityRows()));
     return spec;
 }
 

@@ -11,7 +11,7 @@ public:
 
     // The page of a velocity log like this one whose vertical-speed description
     // runs on one line: the PSRVEL and TDIFVEL pages.
-    static FieldTableSpec velocityPage(const QMetaObject &page, const char *header);
+    static FieldTableSpec velocityPage(const QMetaObject &page);
 
 private:
     static QVector<FieldRow> velocityRows();

@@ -36,7 +36,7 @@ const FieldTableSpec &BestxyzTable::pageSpec()
     // the velocity status and type of rows 8 and 9 stay raw beside their static
     // texts, on purpose.
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#BESTXYZA,", fieldRows(rows))
+        FieldTableSpec::record(staticMetaObject, fieldRows(rows))
             .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))
             .window(602, 417)
             .valuesAligned(Qt::AlignRight | Qt::AlignVCenter)

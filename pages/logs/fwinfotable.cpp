@@ -15,7 +15,7 @@ const FieldTableSpec &FwinfoTable::pageSpec()
         {QT_TR_NOOP("efuse ID"), nullptr, QT_TR_NOOP("板卡 ID")},
         {QT_TR_NOOP("comp time"), nullptr, QT_TR_NOOP("固件编译日期")},
     };
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#FWINFOA,", fieldRows(rows));
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, fieldRows(rows));
     return spec;
 }
 

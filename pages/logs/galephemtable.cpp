@@ -3,7 +3,7 @@
 const EphemerisSpec &GalephemTable::pageSpec()
 {
     static const EphemerisSpec spec =
-        EphemerisSpec::log(staticMetaObject, "#GALEPHEMA,",
+        EphemerisSpec::log(staticMetaObject,
                            {"SatId", "FNAVReceived", "INAVReceived", "E1BHealth", "E5aHealth", "E5bHealth",
                             "E1BDVS", "E5aDVS", "E5bDVS", "SISA", "Reserved", "IODNav", "T0e", "RootA", "DeltaN",
                             "M0", "Ecc", "Omega", "Cuc", "Cus", "Crc", "Crs", "Cic", "Cis", "I0", "IDot", "Omega0",

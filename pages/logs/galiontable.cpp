@@ -17,7 +17,7 @@ const FieldTableSpec &Galiontable::pageSpec()
         {QT_TR_NOOP("SF5"), nullptr, QT_TR_NOOP("Region 5 的电离层干扰标志")},
     };
     // Seven characters compared, as on the GPS page: intentional.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#GALION", fieldRows(rows));
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, fieldRows(rows));
     return spec;
 }
 

@@ -19,7 +19,7 @@ const FieldTableSpec &GalutcTable::pageSpec()
         {QT_TR_NOOP("ulWN0g"), nullptr, QT_TR_NOOP("Galileo 时间系统与 GPST 系统转换参考周计数")},
     };
     // Seven characters compared, as on the GPS page: intentional.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#GALUTC", fieldRows(rows));
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, fieldRows(rows));
     return spec;
 }
 

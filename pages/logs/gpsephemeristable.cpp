@@ -3,7 +3,7 @@
 const EphemerisSpec &GpsephemerisTable::pageSpec()
 {
     static const EphemerisSpec spec =
-        EphemerisSpec::log(staticMetaObject, "#GPSEPHEMERISA,",
+        EphemerisSpec::log(staticMetaObject,
                            {"Prn", "tow", "health", "IODE1", "IODE2", "Week", "Z Week", "Toe", "A", "ΔN", "M0",
                             "Ecc", "ω", "cuc", "cus", "crc", "crs", "cic", "cis", "I0", "IDOT", "Ω0", "Ω dot",
                             "iodc", "toc", "tgd", "af0", "af1", "af2", "AS", "N", "URA"})

@@ -23,9 +23,7 @@ QVector<FieldRow> GpsionTable::ionosphereRows()
 
 const FieldTableSpec &GpsionTable::pageSpec()
 {
-    // Seven characters, without the "A" and the comma: every line beginning
-    // "#GPSION" is this page's, whatever follows. Intentional.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#GPSION", ionosphereRows());
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, ionosphereRows());
     return spec;
 }
 

@@ -21,9 +21,7 @@ QVector<FieldRow> GpsutcTable::utcRows()
 
 const FieldTableSpec &GpsutcTable::pageSpec()
 {
-    // Seven characters, without the "A" and the comma: every line beginning
-    // "#GPSUTC" is this page's, whatever follows. Intentional.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#GPSUTC", utcRows());
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, utcRows());
     return spec;
 }
 

@@ -26,14 +26,8 @@ QVector<FieldRow> HeadingTable::headingRows()
 
 const FieldTableSpec &HeadingTable::pageSpec()
 {
-    // The "Heading" page's header is nine characters but ten are compared, so no
-    // HEADING record ever matches it; only the "KvnHeading" page takes records. This
-    // is intentional and kept.
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#HEADINGA,", headingRows())
-            .headerFor("Heading", "#HEADINGA")
-            .headerFor("KvnHeading", "#KVNHEADIN")
-            .comparedLength(10)
+        FieldTableSpec::record(staticMetaObject, headingRows())
             .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))
             .window(733, 495)
             .valuesAligned(Qt::AlignRight | Qt::AlignVCenter)

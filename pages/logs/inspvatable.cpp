@@ -18,7 +18,7 @@ const FieldTableSpec &InspvaTable::pageSpec()
         {QT_TR_NOOP("Status"), nullptr, QT_TR_NOOP("INS 状态")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#INSPVAA,", fieldRows(rows))
+        FieldTableSpec::record(staticMetaObject, fieldRows(rows))
             .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))
             .window(400, 300)
             .valuesAligned(Qt::AlignHCenter | Qt::AlignVCenter);

@@ -33,10 +33,8 @@ QVector<FieldRow> MatchedposTable::matchedPositionRows()
 
 const FieldTableSpec &MatchedposTable::pageSpec()
 {
-    // No trailing comma in the header, as specified. The prose claims this prefix also
-    // begins MATCHEDPOSH logs, but "#MATCHEDPOSHA" differs at index 11: the literal holds.
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#MATCHEDPOSA", matchedPositionRows())
+        FieldTableSpec::record(staticMetaObject, matchedPositionRows())
             .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))
             .window(714, 475)
             .valuesAligned(Qt::AlignHCenter | Qt::AlignVCenter)

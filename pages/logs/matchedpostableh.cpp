@@ -5,7 +5,7 @@
 const FieldTableSpec &MatchedposTableh::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#MATCHEDPOSHA", MatchedposTable::matchedPositionRows())
+        FieldTableSpec::record(staticMetaObject, MatchedposTable::matchedPositionRows())
             // The stray blanks and the line break are the receiver's own text.
             .replaceRow(5, {QT_TR_NOOP("undulation"), "", QT_TR_NOOP("大地水准面差距 - 大 地 水准 面 和\nWGS84 椭球面之间的距离")})
             .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))

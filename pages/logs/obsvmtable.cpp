@@ -3,7 +3,7 @@
 const ListPageSpec &ObsvmTable::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#OBSVMA,",
+        ListPageSpec::log(staticMetaObject,
                           {
                               {QT_TR_NOOP("System Freq")},
                               {QT_TR_NOOP("PRN/ slot")},

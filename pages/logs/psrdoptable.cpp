@@ -1,10 +1,9 @@
 #include "psrdoptable.h"
 
-DopPageSpec PsrdopTable::dopSpec(const QMetaObject &page, const char *header)
+DopPageSpec PsrdopTable::dopSpec(const QMetaObject &page)
 {
     return DopPageSpec{
         page.className(),
-        header,
         {
             {QT_TR_NOOP("gdop"), "", QT_TR_NOOP("几何精度因子")},
             {QT_TR_NOOP("pdop"), "", QT_TR_NOOP("位置精度因子")},
@@ -28,7 +27,7 @@ DopPageSpec PsrdopTable::dopSpec(const QMetaObject &page, const char *header)
 
 const DopPageSpec &PsrdopTable::pageSpec()
 {
-    static const DopPageSpec spec = dopSpec(staticMetaObject, "#PSRDOPA,");
+    static const DopPageSpec spec = dopSpec(staticMetaObject);
     return spec;
 }
 

@@ -9,8 +9,8 @@ class PsrdopTable : public DopPage
 public:
     Q_INVOKABLE PsrdopTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent);
 
-    // The whole page but its header, shared word for word by the PSRDOP2 page.
-    static DopPageSpec dopSpec(const QMetaObject &page, const char *header);
+    // The whole page, shared word for word by the PSRDOP2 page.
+    static DopPageSpec dopSpec(const QMetaObject &page);
 
 private:
     static const DopPageSpec &pageSpec();

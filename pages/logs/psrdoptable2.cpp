@@ -4,7 +4,7 @@
 
 const DopPageSpec &PsrdopTable2::pageSpec()
 {
-    static const DopPageSpec spec = PsrdopTable::dopSpec(staticMetaObject, "#PSRDOP2A,");
+    static const DopPageSpec spec = PsrdopTable::dopSpec(staticMetaObject);
     return spec;
 }
 

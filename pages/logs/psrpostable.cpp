@@ -5,7 +5,7 @@
 const FieldTableSpec &PsrposTable::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#PSRPOSA,", BestposTable::bestPositionRows())
+        FieldTableSpec::record(staticMetaObject, BestposTable::bestPositionRows())
             .replaceRow(19, {QT_TR_NOOP("Galileo sigmask"), "", QT_TR_NOOP("Galileo 使用的信号掩码")})
             .replaceRow(20, {QT_TR_NOOP("GPS GLONASS and BDS sigmask"), "", QT_TR_NOOP("GPS, GLONASS 和 BDS 使用的信号掩码")})
             .layout(FormLayout::Grid, "gridLayout", QMargins(-1, -1, 3, 3))

@@ -4,7 +4,7 @@
 
 const FieldTableSpec &PsrvelTable::pageSpec()
 {
-    static const FieldTableSpec spec = BestvelTable::velocityPage(staticMetaObject, "#PSRVELA,");
+    static const FieldTableSpec spec = BestvelTable::velocityPage(staticMetaObject);
     return spec;
 }
 

@@ -5,7 +5,7 @@
 const ListPageSpec &RangehTable::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#RANGEHA,", RangeTable::observationColumns())
+        ListPageSpec::log(staticMetaObject, RangeTable::observationColumns())
             .rows(200)
             .countLine({QT_TR_NOOP("观测值总数:")})
             .window(580, 392);

@@ -19,7 +19,7 @@ QVector<ListColumn> RangeTable::observationColumns()
 const ListPageSpec &RangeTable::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#RANGEA,", observationColumns())
+        ListPageSpec::log(staticMetaObject, observationColumns())
             .rows(200)
             .countLine({QT_TR_NOOP("观测值总数:")})
             .window(580, 392);

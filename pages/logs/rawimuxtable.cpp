@@ -18,7 +18,7 @@ const FieldTableSpec &RawimuxTable::pageSpec()
         {QT_TR_NOOP("X Gyro Output"), nullptr, QT_TR_NOOP("沿 X 轴右手螺旋的角度变化量。")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#RAWIMUXA,", fieldRows(rows))
+        FieldTableSpec::record(staticMetaObject, fieldRows(rows))
             .layout(FormLayout::HBox, "horizontalLayout", QMargins(6, 6, 3, 3))
             .window(400, 300)
             .valuesAligned(Qt::AlignHCenter | Qt::AlignVCenter);

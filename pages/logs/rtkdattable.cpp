@@ -8,7 +8,7 @@ const char *const kCovariance = QT_TRANSLATE_NOOP("RtkdatTable", "ECEF 位置协
 const ListPageSpec &RtkdatTable::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#RTKDATAA,", {{QT_TR_NOOP("PRN")}, {QT_TR_NOOP("Amb")}, {QT_TR_NOOP("res")}})
+        ListPageSpec::log(staticMetaObject, {{QT_TR_NOOP("PRN")}, {QT_TR_NOOP("Amb")}, {QT_TR_NOOP("res")}})
             .leadingFields(
                 {
                     {QT_TR_NOOP("sol status"), "", QT_TR_NOOP("解的状态")},

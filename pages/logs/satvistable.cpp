@@ -3,7 +3,7 @@
 const ListPageSpec &SATVISTable::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#SATVISA,",
+        ListPageSpec::log(staticMetaObject,
                           {
                               {QT_TR_NOOP("卫星号")},
                               {QT_TR_NOOP("glofreq")},

@@ -3,7 +3,7 @@
 const ListPageSpec &SATVISTable2::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#SATVIS2A,",
+        ListPageSpec::log(staticMetaObject,
                           {
                               {QT_TR_NOOP("System"), ListColumn::Text, 0},
                               // Prn and glofreq each show their own field; a "+" in the Prn field is not split.

@@ -3,7 +3,7 @@
 const ListPageSpec &Satxyz2Table::pageSpec()
 {
     static const ListPageSpec spec =
-        ListPageSpec::log(staticMetaObject, "#SATXYZ2A,",
+        ListPageSpec::log(staticMetaObject,
                           {
                               {QT_TR_NOOP("GNSS_SYSTEM")},
                               {QT_TR_NOOP("卫星号")},

@@ -5,7 +5,7 @@
 const FieldTableSpec &TdifposTable::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::record(staticMetaObject, "#TDIFPOSA,", BestposTable::bestPositionRows())
+        FieldTableSpec::record(staticMetaObject, BestposTable::bestPositionRows())
             .replaceRow(19, {QT_TR_NOOP("Galileo sigmask"), "", QT_TR_NOOP("Galileo 使用的信号掩码")})
             .replaceRow(20, {QT_TR_NOOP("GPS GLONASS\nand BDS sigmask"), "", QT_TR_NOOP("GPS, GLONASS 和 BDS 使用的信号掩码")})
             .layout(FormLayout::VBox, "verticalLayout", QMargins(6, 6, 3, 3))

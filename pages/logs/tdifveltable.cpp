@@ -4,7 +4,7 @@
 
 const FieldTableSpec &TdifvelTable::pageSpec()
 {
-    static const FieldTableSpec spec = BestvelTable::velocityPage(staticMetaObject, "#TDIFVELA,");
+    static const FieldTableSpec spec = BestvelTable::velocityPage(staticMetaObject);
     return spec;
 }
 

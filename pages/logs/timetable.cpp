@@ -19,7 +19,7 @@ const FieldTableSpec &TimeTable::pageSpec()
     };
     // The comma is part of the seven compared characters, so logs whose names only
     // begin with TIME are not taken.
-    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, "#TIMEA,", fieldRows(rows));
+    static const FieldTableSpec spec = plainRecordPage(staticMetaObject, fieldRows(rows));
     return spec;
 }
 

@@ -20,12 +20,7 @@ const FieldTableSpec &GGATable::pageSpec()
         {QT_TR_NOOP("stn ID"), "", QT_TR_NOOP("差分基站ID")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "GGA,", fieldRows(rows))
-            // The high-rate variant page compares the four characters "GGAH" with no
-            // comma, so plain GGA sentences never reach it.
-            .headerFor("GGAH", "GGAH")
-            // Only this page guards against lines too short to hold a talker and header.
-            .minimumLength(7)
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .lastFieldOptional()
             .resizeColumnsToContents()
             .columnWidth(1, 120)

@@ -13,7 +13,7 @@ const FieldTableSpec &GLLTable::pageSpec()
         {QT_TR_NOOP("Mode"), "", QT_TR_NOOP("A-单点模式，D-差分模式，N-数据无效")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "GLL,", fieldRows(rows))
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .columnWidth(1, 110);
     return spec;
 }

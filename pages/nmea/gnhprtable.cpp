@@ -13,10 +13,7 @@ const FieldTableSpec &GnhprTable::pageSpec()
         {QT_TR_NOOP("stn ID"), "", QT_TR_NOOP("基准站 ID")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "HPR,", fieldRows(rows))
-            // Deliberately no test of the first character; the checksum step still
-            // refuses lines without a valid frame.
-            .withoutDollarTest()
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .lastFieldOptional();
     return spec;
 }

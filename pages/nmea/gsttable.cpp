@@ -15,7 +15,7 @@ const FieldTableSpec &GSTtable::pageSpec()
         {QT_TR_NOOP("alt std"), "", QT_TR_NOOP("高度误差的标准差")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "GST,", fieldRows(rows))
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .lastFieldOptional();
     return spec;
 }

@@ -1,6 +1,7 @@
 #include "gsvtable.h"
 
 #include "linechecksum.h"
+#include "routetable.h"
 
 #include <QBoxLayout>
 #include <QColor>
@@ -90,6 +91,7 @@ struct GSVTable::Form
 
 GSVTable::GSVTable(QWidget *parent, QString introStr, QTreeWidgetItem *treeParent)
     : MsgBaseWidget(parent, introStr, treeParent)
+    , m_route(routeOfPage(staticMetaObject.className(), introStr))
     , m_form(new Form)
 {
     resize(400, 300);
@@ -147,8 +149,7 @@ void GSVTable::onRetranslateUI()
 
 bool GSVTable::parse(QString line)
 {
-    if (!line.startsWith(QLatin1Char('$')) || !textAtEquals(line, 3, 4, QLatin1String("GSV,"))
-        || !checkLineChecksum(line))
+    if (!m_route.matchesHeader(line) || !checkLineChecksum(line))
         return false;
     if (!isVisible())
         return true;

@@ -9,6 +9,7 @@
 #include <memory>
 
 class QTimer;
+struct PageRoute;
 
 // GSV: the satellites in view of every system in one list. A report is spread over
 // several sentences of up to four satellites, and each system's talker reports in
@@ -64,6 +65,7 @@ private:
     // did, only that system's rows are rewritten: the other rows already show it.
     void rebuildTable(int system = -1);
 
+    const PageRoute &m_route;
     std::unique_ptr<Form> m_form;
     std::array<SystemStore, kSystemCount> m_stores;
     QTimer *m_staleTimer = nullptr;

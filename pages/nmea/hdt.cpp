@@ -7,7 +7,7 @@ const FieldTableSpec &HDT::pageSpec()
         {QT_TR_NOOP("TRUE"), "", QT_TR_NOOP("真北")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "HDT,", fieldRows(rows))
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .lastFieldOptional();
     return spec;
 }

@@ -22,9 +22,7 @@ const FieldTableSpec &RMCTable::pageSpec()
         {QT_TR_NOOP("nav status"), "", QT_TR_NOOP("S-安全，C-注意，U-危险，V-定位状态不可用")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "RMC,", fieldRows(rows))
-            // As on the GGA page, the high-rate variant header has no comma on purpose.
-            .headerFor("RMCH", "RMCH")
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .lastFieldOptional()
             .columnWidth(1, 110);
     return spec;

@@ -13,7 +13,7 @@ const FieldTableSpec &TRAtable::pageSpec()
         {QT_TR_NOOP("Station ID"), "", QT_TR_NOOP("基站号")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "TRA,", fieldRows(rows))
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .lastFieldOptional();
     return spec;
 }

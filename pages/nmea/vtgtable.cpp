@@ -15,7 +15,7 @@ const FieldTableSpec &VTGTable::pageSpec()
         {QT_TR_NOOP("Mode ind"), "", QT_TR_NOOP("A-单点模式，D-差分模式，N-数据无效")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "VTG,", fieldRows(rows))
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .columnWidth(1, 80);
     return spec;
 }

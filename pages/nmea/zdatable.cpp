@@ -11,7 +11,7 @@ const FieldTableSpec &ZDATable::pageSpec()
         {QT_TR_NOOP("Local zone minutes description"), "", QT_TR_NOOP("本地区分钟描述（00 to +59）")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "ZDA,", fieldRows(rows))
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows))
             .columnWidth(1, 150)
             .columnWidth(2, 100);
     return spec;

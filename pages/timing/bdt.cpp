@@ -30,7 +30,7 @@ QVector<FieldRow> BDT::interchangedSystemTimeRows()
 const FieldTableSpec &BDT::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "BDSTIME,", systemTimeRows()).lastFieldOptional();
+        FieldTableSpec::sentence(staticMetaObject, systemTimeRows()).lastFieldOptional();
     return spec;
 }
 

@@ -5,7 +5,7 @@
 const FieldTableSpec &GAT::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "GALTIME,", BDT::interchangedSystemTimeRows())
+        FieldTableSpec::sentence(staticMetaObject, BDT::interchangedSystemTimeRows())
             .replaceRow(3, {QT_TR_NOOP("GalTotalSec"), nullptr, QT_TR_NOOP("Galileo 系统总秒数")})
             .lastFieldOptional();
     return spec;

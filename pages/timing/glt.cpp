@@ -5,7 +5,7 @@
 const FieldTableSpec &GLT::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "GLOTIME,", BDT::interchangedSystemTimeRows())
+        FieldTableSpec::sentence(staticMetaObject, BDT::interchangedSystemTimeRows())
             .replaceRow(1, {QT_TR_NOOP("day"), nullptr, QT_TR_NOOP("天数，无效则为空")})
             .replaceRow(2, {QT_TR_NOOP("tod"), nullptr, QT_TR_NOOP("天内秒（小数点后9位，ns精度），无效则为空")})
             // "GlONASS" with a lower-case l is the receiver's own spelling.

@@ -21,7 +21,7 @@ QVector<FieldRow> gpsTimeRows()
 const FieldTableSpec &GPT::pageSpec()
 {
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "GPSTIME,", gpsTimeRows()).lastFieldOptional();
+        FieldTableSpec::sentence(staticMetaObject, gpsTimeRows()).lastFieldOptional();
     return spec;
 }
 

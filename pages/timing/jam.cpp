@@ -29,7 +29,7 @@ const FieldTableSpec &JAM::pageSpec()
     };
     // Only "JAM" is compared, so any sentence whose name begins with JAM is taken.
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "JAM", fieldRows(rows)).lastFieldOptional();
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows)).lastFieldOptional();
     return spec;
 }
 

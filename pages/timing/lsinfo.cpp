@@ -15,7 +15,7 @@ const FieldTableSpec &LSINFO::pageSpec()
     };
     // Only the name is compared, not the comma after it.
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "LSINFO", fieldRows(rows)).lastFieldOptional();
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows)).lastFieldOptional();
     return spec;
 }
 

@@ -10,7 +10,7 @@ const FieldTableSpec &PPSTable::pageSpec()
         {QT_TR_NOOP("clkDrift"), nullptr, QT_TR_NOOP("时钟频偏，单位 0.1m/s")},
     };
     // Unlike the other timing sentences, a missing last field is not tolerated.
-    static const FieldTableSpec spec = FieldTableSpec::sentence(staticMetaObject, 1, "PPSINFO", fieldRows(rows));
+    static const FieldTableSpec spec = FieldTableSpec::sentence(staticMetaObject, fieldRows(rows));
     return spec;
 }
 

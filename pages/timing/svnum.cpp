@@ -13,7 +13,7 @@ const FieldTableSpec &svnum::pageSpec()
     // take fields 1, 3, 5, 7 and 9 with no count test; rows past a short sentence's
     // fields keep their text. Compared from index 3, leaving "SV" unexamined.
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "NUM,", fieldRows(rows)).uncheckedFieldsEvery(2);
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows)).uncheckedFieldsEvery(2);
     return spec;
 }
 

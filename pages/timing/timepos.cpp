@@ -13,7 +13,7 @@ const FieldTableSpec &timepos::pageSpec()
         {QT_TR_NOOP("pdop"), nullptr, QT_TR_NOOP("位置精度因子")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "TIMPOS,", fieldRows(rows)).lastFieldOptional();
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows)).lastFieldOptional();
     return spec;
 }
 

@@ -20,7 +20,7 @@ const FieldTableSpec &tpfinfo::pageSpec()
     // Compared from index 3 like an NMEA sentence: the two characters after '$' are
     // not examined (kept on purpose).
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 3, "FINFO,", fieldRows(rows)).lastFieldOptional();
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows)).lastFieldOptional();
     return spec;
 }
 

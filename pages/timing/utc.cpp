@@ -14,7 +14,7 @@ const FieldTableSpec &UTC::pageSpec()
         {QT_TR_NOOP("utcstd"), nullptr, QT_TR_NOOP("UTC标准0：USNO（GPS） 1：NTSC（BDS） 2：TBD（GAL） 3：SU（GLO）")},
     };
     static const FieldTableSpec spec =
-        FieldTableSpec::sentence(staticMetaObject, 1, "UTCTIME,", fieldRows(rows)).lastFieldOptional();
+        FieldTableSpec::sentence(staticMetaObject, fieldRows(rows)).lastFieldOptional();
     return spec;
 }
 

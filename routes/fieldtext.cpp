@@ -18,23 +18,10 @@ void splitFields(QStringView text, FieldViews &fields)
     fields.append(QStringView(data + start, size - start));
 }
 
-namespace {
-template <typename Literal>
-bool equalsAt(const QString &line, int offset, int length, Literal literal)
+bool textAtEquals(const QString &line, int offset, int length, QLatin1String literal)
 {
     if (offset > line.size())
         return literal.isEmpty();
     const int available = std::min(length, line.size() - offset);
     return available == literal.size() && QStringView(line).mid(offset, available) == literal;
-}
-} // namespace
-
-bool textAtEquals(const QString &line, int offset, int length, QStringView literal)
-{
-    return equalsAt(line, offset, length, literal);
-}
-
-bool textAtEquals(const QString &line, int offset, int length, QLatin1String literal)
-{
-    return equalsAt(line, offset, length, literal);
 }

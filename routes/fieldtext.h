@@ -13,7 +13,6 @@ void splitFields(QStringView text, FieldViews &fields);
 
 // line.mid(offset, length) == literal, without building the substring. A line too
 // short to supply `length` characters compares only what it has, so a literal
-// shorter than `length` matches a line that ends right after it (the comparison the
-// pages are specified with, kept on purpose).
-bool textAtEquals(const QString &line, int offset, int length, QStringView literal);
+// shorter than `length` matches a line that ends right after it (the pages'
+// comparison, kept on purpose).
 bool textAtEquals(const QString &line, int offset, int length, QLatin1String literal);

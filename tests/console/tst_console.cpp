@@ -366,6 +366,7 @@ void ConsoleTest::commandLineWithoutDisplay_data()
     QTest::newRow("version") << QStringList{"--version"} << 0 << "msgview " MSGVIEW_VERSION "\n";
     QTest::newRow("window") << QStringList{"--mode", "0"} << 1 << "no display";
     QTest::newRow("unknown option") << QStringList{"--mdoe", "2"} << 1 << "Unknown option 'mdoe'";
+    QTest::newRow("file without --replay") << QStringList{"capture.log"} << 1 << "--replay capture.log";
 }
 
 void ConsoleTest::commandLineWithoutDisplay()

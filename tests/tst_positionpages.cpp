@@ -44,6 +44,10 @@ void PositionPagesTest::bestposFillsValuesVerbatimAndMarksItsItem()
     QCOMPARE(h.cell("Bestpos", 10, 1), QString("\"0\""));
     QCOMPARE(h.cell("Bestpos", 15, 1), QString());
     QCOMPARE(h.cell("Bestpos", 20, 1), QString("3"));
+    // The value column keeps its specified width; a long value shows whole as its tooltip.
+    QCOMPARE(h.table("Bestpos")->columnWidth(1), 110);
+    QCOMPARE(h.table("Bestpos")->item(2, 1)->toolTip(), QString("31.12345678901"));
+    QCOMPARE(h.table("Bestpos")->item(20, 1)->toolTip(), QString());
     // Bestpos never describes its status fields, unlike its siblings.
     QCOMPARE(h.cell("Bestpos", 0, 3), QString());
     QCOMPARE(h.cell("Bestpos", 1, 3), QString());

@@ -1,6 +1,7 @@
 #include "fieldtablepage.h"
 
 #include "linechecksum.h"
+#include "tablecells.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -106,7 +107,7 @@ FieldTablePage::FieldTablePage(const FieldTableSpec &spec, QWidget *parent, cons
                 description->setTextAlignment(Qt::AlignLeft);
             table->setItem(row, 3, description);
         }
-        auto *value = new QTableWidgetItem;
+        auto *value = new ValueCell;
         value->setTextAlignment(spec.m_valueAlignment);
         table->setItem(row, 1, value);
     }

@@ -46,6 +46,13 @@ int fail(const QString &message)
     return 1;
 }
 
+// A bare file name would not be replayed (the demo session would play instead).
+int refuseStrayArguments(const QCommandLineParser &parser)
+{
+    const QString argument = parser.positionalArguments().constFirst();
+    return fail(QStringLiteral("unexpected argument %1 (to replay a recording: --replay %1)").arg(argument));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -97,6 +104,8 @@ int main(int argc, char **argv)
         QCoreApplication core(argc, argv);
         parser.process(core); // prints and exits
     }
+    if (understood && !parser.positionalArguments().isEmpty())
+        return refuseStrayArguments(parser);
     const bool headless = parser.isSet(headlessOption) || parser.isSet(snapshotOption);
     if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -106,6 +115,8 @@ int main(int argc, char **argv)
                                : parser.errorText());
     QApplication app(argc, argv);
     parser.process(app);
+    if (!parser.positionalArguments().isEmpty())
+        return refuseStrayArguments(parser);
     // The library is quiet about the files it cannot load unless asked; the console's
     // log (standard error) should say so.
     QLoggingCategory::setFilterRules(QStringLiteral("messageview.files.warning=true"));

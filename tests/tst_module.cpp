@@ -122,6 +122,10 @@ void ModuleTest::overlongLinesAreDroppedWhole()
     const QByteArray wide(MessageViewModules::maxLineBytes - 1000, 'w');
     h.feed(bestpos(wide));
     QCOMPARE(h.cell("Bestpos", 2, 1).size(), wide.size());
+    // The value column keeps its width; the cut value shows whole as its tooltip.
+    QCOMPARE(h.table("Bestpos")->columnWidth(1), 110);
+    QCOMPARE(h.table("Bestpos")->item(2, 1)->toolTip().size(), wide.size());
+    QCOMPARE(h.table("Bestpos")->item(3, 1)->toolTip(), QString());
 
     // A receiver switched to binary output while a text mode is selected: the buffer
     // stays bounded, and the stream recovers at the next line end.

@@ -2,6 +2,7 @@
 
 #include "linechecksum.h"
 #include "routetable.h"
+#include "tablecells.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -96,7 +97,7 @@ FieldTablePage::FieldTablePage(const FieldTableSpec &spec, QWidget *parent, cons
                 description->setTextAlignment(Qt::AlignLeft);
             table->setItem(row, 3, description);
         }
-        auto *value = new QTableWidgetItem;
+        auto *value = new ValueCell;
         value->setTextAlignment(spec.m_valueAlignment);
         table->setItem(row, 1, value);
     }

@@ -89,7 +89,7 @@ FieldBlock::FieldBlock(QTableWidget *table, const char *context, QVector<FieldRo
     table->setRowCount(m_rows.size());
     for (int row = 0; row < m_rows.size(); ++row) {
         for (int column = 0; column < 4; ++column)
-            table->setItem(row, column, new QTableWidgetItem);
+            table->setItem(row, column, column == 1 ? new ValueCell : new QTableWidgetItem);
         table->item(row, 1)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     retranslate();

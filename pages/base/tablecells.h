@@ -8,10 +8,10 @@
 
 class QTableWidget;
 
-// A cell of a list table. A value wider than its column's header (a pseudorange, a
-// carrier phase) has its whole text as tooltip, for when the column is narrower than
-// a later, longer value; the tooltip is worked out when asked for, so writing a value
-// costs no more than with a plain item.
+// A value cell. A value wider than its column's header (a pseudorange, a latitude)
+// has its whole text as tooltip, for when the column is narrower than the value (a
+// specified width, a later, longer value); the tooltip is worked out when asked for,
+// so writing a value costs no more than with a plain item.
 class ValueCell : public QTableWidgetItem
 {
 public:

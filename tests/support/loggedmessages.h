@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QList>
-#include <QPair>
+#include <QMap>
 #include <QStringList>
 #include <QtGlobal>
 
@@ -10,34 +9,14 @@
 class LoggedMessages
 {
 public:
-    LoggedMessages()
-    {
-        s_current = this;
-        m_previous = qInstallMessageHandler(&collect);
-    }
-    ~LoggedMessages()
-    {
-        qInstallMessageHandler(m_previous);
-        s_current = nullptr;
-    }
-
-    QStringList texts(QtMsgType type) const
-    {
-        QStringList texts;
-        for (const auto &message : m_messages) {
-            if (message.first == type)
-                texts << message.second;
-        }
-        return texts;
-    }
+    LoggedMessages() { s_current = this; m_previous = qInstallMessageHandler(&collect); }
+    ~LoggedMessages() { qInstallMessageHandler(m_previous); s_current = nullptr; }
+    QStringList texts(QtMsgType type) const { return m_texts.value(type); }
 
 private:
-    static void collect(QtMsgType type, const QMessageLogContext &, const QString &text)
-    {
-        s_current->m_messages.append({type, text});
-    }
+    static void collect(QtMsgType type, const QMessageLogContext &, const QString &text) { s_current->m_texts[type] << text; }
 
     static inline LoggedMessages *s_current = nullptr;
     QtMessageHandler m_previous = nullptr;
-    QList<QPair<QtMsgType, QString>> m_messages;
+    QMap<QtMsgType, QStringList> m_texts;
 };

@@ -21,6 +21,8 @@
 #   --jobs N        parallel test jobs (default: the number of cores)
 #   --timeout S     per-test timeout in seconds (default 120)
 #   --resume        keep the results of mutants already run (after an interruption)
+#   --quick         stop a mutant's tests at the first failure: the score only, much faster;
+#                   the per-test table then counts only the tests that happened to run first
 #   --report        only print the report of the results already recorded
 # ID-PREFIX...      run only the mutants whose id starts with one of these
 #
@@ -35,6 +37,7 @@ build=build-mutate
 jobs=$(nproc)
 timeout=120
 resume=0
+quick=()
 report_only=0
 prefixes=()
 while [ $# -gt 0 ]; do
@@ -44,6 +47,7 @@ while [ $# -gt 0 ]; do
         --jobs) jobs=$2; shift 2 ;;
         --timeout) timeout=$2; shift 2 ;;
         --resume) resume=1; shift ;;
+        --quick) quick=(--stop-on-failure); shift ;;
         --report) report_only=1; shift ;;
         -h|--help) sed -n '2,/^set -euo/p' "$0" | sed '$d; s/^# \{0,1\}//'; exit 0 ;;
         -*) echo "mutate.sh: unknown option $1" >&2; exit 2 ;;
@@ -124,7 +128,7 @@ run_tests() { # test names... -> names of the failing ones on stdout
     local regex
     regex="^($(IFS='|'; echo "$*"))\$"
     rm -f "$build/Testing/Temporary/LastTestsFailed.log"
-    (cd "$build" && QT_QPA_PLATFORM=offscreen ctest -j"$jobs" --timeout "$timeout" -R "$regex" > "$out/ctest.log" 2>&1) || true
+    (cd "$build" && QT_QPA_PLATFORM=offscreen ctest -j"$jobs" --timeout "$timeout" ${quick[@]+"${quick[@]}"} -R "$regex" > "$out/ctest.log" 2>&1) || true
     if ! grep -qE '^[0-9]+% tests passed' "$out/ctest.log"; then
         echo "mutate.sh: ctest did not run (see $out/ctest.log)" >&2
         exit 1

@@ -26,7 +26,8 @@
 #   --report        only print the report of the results already recorded
 # ID-PREFIX...      run only the mutants whose id starts with one of these
 #
-# Results: DIR/mutants/results.tsv (ID, status, killing tests, seconds) and DIR/mutants/report.txt.
+# Results: DIR/mutants/results.tsv (ID, status, killing tests, seconds, failing QTest functions)
+# and DIR/mutants/report.txt, which also lists the kills per test function: what to merge or cut.
 # The source tree is restored after every mutant, also when interrupted.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -70,13 +71,14 @@ report() {
             $mutant{$f[0]} = {file => $f[1], snippet => $f[2], replacement => $f[3], note => $f[4] // ""};
         }
         open my $r, "<", $results or die "no results in $results\n";
-        my (%status, %killers, %tests);
+        my (%status, %killers, %functions);
         while (<$r>) {
             chomp;
-            my ($id, $status, $killers) = split /\t/;
+            my ($id, $status, $killers, $seconds, $functions) = split /\t/;
             push @order, $id unless exists $status{$id};
             $status{$id} = $status;
             $killers{$id} = [grep { length } split /,/, $killers // ""];
+            $functions{$id} = [grep { length } split /,/, $functions // ""];
         }
         my %n;
         $n{$status{$_}}++ for @order;
@@ -96,15 +98,23 @@ report() {
                 print "  $id  $m->{file}: \"$m->{snippet}\" -> \"$m->{replacement}\"\n";
             }
         }
-        for my $id (grep { $status{$_} eq "killed" } @order) {
-            my @k = @{$killers{$id}};
-            $tests{$_}{killed}++ for @k;
-            $tests{$k[0]}{only}++ if @k == 1;
-        }
-        print "\nper test: mutants killed, killed by it alone\n";
-        for my $t (sort { $tests{$b}{killed} <=> $tests{$a}{killed} || $a cmp $b } keys %tests) {
-            printf "  %-24s %4d %4d\n", $t, $tests{$t}{killed}, $tests{$t}{only} // 0;
-        }
+        my $table = sub {
+            my ($title, $by) = @_;
+            my %tests;
+            for my $id (grep { $status{$_} eq "killed" } @order) {
+                my @k = @{$by->{$id}};
+                $tests{$_}{killed}++ for @k;
+                $tests{$k[0]}{only}++ if @k == 1;
+            }
+            return unless %tests;
+            print "\n$title: mutants killed, killed by it alone\n";
+            for my $t (sort { $tests{$b}{killed} <=> $tests{$a}{killed} || $a cmp $b } keys %tests) {
+                printf "  %-56s %4d %4d\n", $t, $tests{$t}{killed}, $tests{$t}{only} // 0;
+            }
+        };
+        $table->("per test", \%killers);
+        # A crash or a time-out names no function: those kills count for the test only.
+        $table->("per test function (QTest FAIL lines)", \%functions);
     ' "$list" "$results"
 }
 
@@ -134,6 +144,7 @@ run_tests() { # test names... -> names of the failing ones on stdout
         exit 1
     fi
     [ -f "$build/Testing/Temporary/LastTestsFailed.log" ] && sed 's/^[0-9]*://' "$build/Testing/Temporary/LastTestsFailed.log"
+    grep -oP '^FAIL!  : \K\w+::\w+' "$build/Testing/Temporary/LastTest.log" | sort -u | paste -sd, - > "$out/functions"
     return 0
 }
 
@@ -216,7 +227,7 @@ while IFS=$'\t' read -r -u 3 id file snippet replacement note || [ -n "$id" ]; d
     restore
     status=survived
     [ -n "$killers" ] && status=killed
-    printf '%s\t%s\t%s\t%d\n' "$id" "$status" "$killers" $(($(date +%s) - started)) >> "$results"
+    printf '%s\t%s\t%s\t%d\t%s\n' "$id" "$status" "$killers" $(($(date +%s) - started)) "$(cat "$out/functions")" >> "$results"
     echo "$id: $status ${killers:+by $killers} (${#affected[@]} tests ran, $(($(date +%s) - started)) s)"
 done 3< "$list"
 

@@ -41,6 +41,8 @@ private slots:
     void manyLinesInOneChunkAndStrayLineEnds();
     void unmatchedLinesAreDiscarded();
     void overlongLinesAreDroppedWhole();
+    void linesAtTheLengthLimit_data();
+    void linesAtTheLengthLimit();
     void returnCodes_data();
     void returnCodes();
     void sameModeKeepsPagesAndBuffer();
@@ -92,7 +94,7 @@ void ModuleTest::manyLinesInOneChunkAndStrayLineEnds()
     for (int i = 0; i < 500; ++i)
         chunk += bestpos(QByteArray::number(i));
     // A lone '\r' or '\n' does not end a line; the following line is still cut right.
-    chunk += "garbage\rmore\nstill one line\r\n" + bestpos("last");
+    chunk += "garbage\rmore\nstill one line\r\r\n" + bestpos("last");
     h.feed(chunk);
     QCOMPARE(h.module().lineCount(), quint64(502));
     QCOMPARE(h.cell("Bestpos", 2, 1), QString("last"));
@@ -108,10 +110,7 @@ void ModuleTest::unmatchedLinesAreDiscarded()
     ModuleHarness h(2);
     h.feed("$GPXXX,1,2*00\r\n" + logWithStandardCrc(logBody("BESTPOSA", "a")) + "\r\n");
     QCOMPARE(h.module().lineCount(), quint64(3));
-    quint64 taken = 0;
-    for (const auto &count : h.module().acceptedLineCounts())
-        taken += count.second;
-    QCOMPARE(taken, quint64(0));
+    QCOMPARE(h.takenByAny(), quint64(0));
 }
 
 void ModuleTest::overlongLinesAreDroppedWhole()
@@ -140,15 +139,33 @@ void ModuleTest::overlongLinesAreDroppedWhole()
     QCOMPARE(h.module().lineCount(), linesBefore + 1);
     QCOMPARE(h.cell("Bestpos", 2, 1), QString("next"));
     QCOMPARE(h.module().bufferedBytes(), 0);
+}
 
-    // The same over-long line arriving in one chunk is dropped too.
-    h.feed(bestpos(QByteArray(MessageViewModules::maxLineBytes, 'w')) + bestpos("one chunk"));
-    QCOMPARE(h.cell("Bestpos", 2, 1), QString("one chunk"));
+void ModuleTest::linesAtTheLengthLimit_data()
+{
+    QTest::addColumn<int>("length"); // without the "\r\n"
+    QTest::addColumn<int>("heldBack"); // bytes of the line that come with the next chunk
+    QTest::addColumn<bool>("taken");
+    const int limit = MessageViewModules::maxLineBytes;
+    for (int held : {0, 1, 2, 40}) {
+        const QByteArray split = held ? " + " + QByteArray::number(held) + " bytes later" : "";
+        QTest::newRow("the limit" + split) << limit << held << true;
+        QTest::newRow("one over" + split) << limit + 1 << held << false;
+    }
+}
 
-    // A '\r' right at the limit still pairs with a '\n' in the next chunk.
-    h.feed(QByteArray(MessageViewModules::maxLineBytes + 10, 'x') + "\r");
-    h.feed("\n" + bestpos("after"));
-    QCOMPARE(h.cell("Bestpos", 2, 1), QString("after"));
+void ModuleTest::linesAtTheLengthLimit()
+{
+    QFETCH(int, length);
+    QFETCH(int, heldBack);
+    QFETCH(bool, taken);
+    ModuleHarness h(2);
+    const QByteArray line = bestpos(QByteArray(length + 2 - bestpos("").size(), 'w'));
+    h.feed(line.left(line.size() - heldBack));
+    h.feed(line.right(heldBack) + bestpos("next"));
+    // A dropped line is dropped up to its own line end, and only that far.
+    QCOMPARE(h.taken("Bestpos"), quint64(taken ? 2 : 1));
+    QCOMPARE(h.module().lineCount(), h.taken("Bestpos"));
 }
 
 void ModuleTest::returnCodes_data()
@@ -189,13 +206,15 @@ void ModuleTest::sameModeKeepsPagesAndBuffer()
     h.feed(line.mid(20));
     QCOMPARE(h.cell("Bestpos", 2, 1), QString("kept"));
 
-    // A real mode change clears the partial line.
-    h.feed(line.left(20));
+    // A real mode change clears the partial line, and where its end was looked for.
+    h.feed(line.left(20) + QByteArray(400, 'x'));
     h.module().addItemToTree(1);
     h.module().addItemToTree(2);
     h.show("Bestpos");
     h.feed(line.mid(20));
     QCOMPARE(h.cell("Bestpos", 2, 1), QString());
+    h.feed(bestpos("new"));
+    QCOMPARE(h.cell("Bestpos", 2, 1), QString("new"));
 }
 
 void ModuleTest::modesWithoutPagesShowOnlyNmea_data()
@@ -288,10 +307,11 @@ void ModuleTest::clicksBringPagesForwardAndRecolour()
 void ModuleTest::setTreeForegroundClearsMarks()
 {
     ModuleHarness h(2);
-    h.feed(bestpos("x"));
-    QVERIFY(h.isMarked("Bestpos"));
+    // The first item of a category too.
+    h.feed(bestpos("x") + sentence("GNGGA,092725.00,4717.11399,N,00833.91590,E,1,08,1.01,499.6,M,48.0,M,,"));
+    QVERIFY(h.isMarked("Bestpos") && h.isMarked("GGA"));
     h.module().setTreeForeground();
-    QVERIFY(!h.isMarked("Bestpos"));
+    QVERIFY(!h.isMarked("Bestpos") && !h.isMarked("GGA"));
 }
 
 void ModuleTest::statusVocabulariesMatchPrefixesInOrder_data()

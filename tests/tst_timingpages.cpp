@@ -64,22 +64,7 @@ QByteArrayList renewed(QByteArrayList values)
     return values;
 }
 
-quint64 taken(ModuleHarness &h, const QString &label)
-{
-    for (const auto &count : h.module().acceptedLineCounts()) {
-        if (count.first == label)
-            return count.second;
-    }
-    return 0;
-}
 
-quint64 takenByAny(ModuleHarness &h)
-{
-    quint64 sum = 0;
-    for (const auto &count : h.module().acceptedLineCounts())
-        sum += count.second;
-    return sum;
-}
 
 QStringList valueColumn(const ModuleHarness &h, const QString &label)
 {
@@ -140,13 +125,13 @@ void TimingPagesTest::eachPageTakesOnlyItsOwnSentence()
 
     QCOMPARE(h.module().lineCount(), quint64(timingSentences().size() + 1));
     for (const TimingSentence &s : timingSentences()) {
-        QCOMPARE(taken(h, s.label), quint64(1));
+        QCOMPARE(h.taken(s.label), quint64(1));
         QVERIFY(h.isMarked(s.label));
         // Hidden pages own their lines without showing them.
         if (label != QLatin1String(s.label))
             QCOMPARE(h.cell(s.label, 0, 1), QString());
     }
-    QCOMPARE(takenByAny(h), quint64(timingSentences().size()));
+    QCOMPARE(h.takenByAny(), quint64(timingSentences().size()));
 
     QStringList expected = asStrings(sentenceOf(label).values);
     if (label == "SVNUM") {
@@ -179,13 +164,13 @@ void TimingPagesTest::lastFieldMayBeMissing()
     h.feed(line(s.name, next.mid(0, rows - 1)));
     QStringList expected = asStrings(next.mid(0, rows - 1)) << QString::fromLatin1(s.values.last());
     QCOMPARE(valueColumn(h, label), expected);
-    QCOMPARE(taken(h, label), quint64(2));
+    QCOMPARE(h.taken(label), quint64(2));
 
     // Two fields short, or one too many: refused and passed on to nobody.
     h.feed(line(s.name, renewed(next).mid(0, rows - 2)));
     h.feed(line(s.name, renewed(next) << "1"));
     QCOMPARE(valueColumn(h, label), expected);
-    QCOMPARE(takenByAny(h), quint64(2));
+    QCOMPARE(h.takenByAny(), quint64(2));
 }
 
 void TimingPagesTest::ppsinfoNeedsEveryField()
@@ -195,7 +180,7 @@ void TimingPagesTest::ppsinfoNeedsEveryField()
     h.show("PPSINFO");
     h.feed(line("PPSINFO", renewed(values).mid(0, values.size() - 1)));
     h.feed(line("PPSINFO", renewed(values) << "5"));
-    QCOMPARE(takenByAny(h), quint64(0));
+    QCOMPARE(h.takenByAny(), quint64(0));
     QCOMPARE(valueColumn(h, "PPSINFO"), QStringList({"", "", "", ""}));
     h.feed(line("PPSINFO", values));
     QCOMPARE(valueColumn(h, "PPSINFO"), asStrings(values));
@@ -212,7 +197,7 @@ void TimingPagesTest::svnumShowsOddFieldsWithoutCountTest()
     // More fields than rows are no reason to refuse.
     h.feed(line("SVNUM", {"1", "0", "2", "0", "3", "0", "4", "0", "5", "0", "6", "0", "7"}));
     QCOMPARE(valueColumn(h, "SVNUM"), QStringList({"1", "2", "3", "4", "5"}));
-    QCOMPARE(taken(h, "SVNUM"), quint64(3));
+    QCOMPARE(h.taken("SVNUM"), quint64(3));
 }
 
 void TimingPagesTest::misframedOrCorruptLinesRefused_data()
@@ -246,7 +231,7 @@ void TimingPagesTest::misframedOrCorruptLinesRefused()
     h.show(label);
     h.feed(line);
     QCOMPARE(h.module().lineCount(), quint64(1));
-    QCOMPARE(takenByAny(h), quint64(0));
+    QCOMPARE(h.takenByAny(), quint64(0));
     QVERIFY(!h.isMarked(label));
     QCOMPARE(h.cell(label, 0, 1), QString());
 }

@@ -73,6 +73,22 @@ QStringList ModuleHarness::pageLabels() const
     return labels;
 }
 
+quint64 ModuleHarness::taken(const QString &label) const
+{
+    quint64 sum = 0;
+    for (const auto &count : m_module->acceptedLineCounts())
+        sum += count.first == label ? count.second : 0;
+    return sum;
+}
+
+quint64 ModuleHarness::takenByAny() const
+{
+    quint64 sum = 0;
+    for (const auto &count : m_module->acceptedLineCounts())
+        sum += count.second;
+    return sum;
+}
+
 bool ModuleHarness::isMarked(const QString &label) const
 {
     QTreeWidgetItem *item = treeItem(label);

@@ -1,24 +1,8 @@
 #include "lineframe.h"
 
-#include <array>
-#include <cmath>
+#include "linechecksum.h"
 
 namespace rxsim {
-
-namespace {
-std::array<quint32, 256> makeTable()
-{
-    std::array<quint32, 256> table{};
-    for (quint32 i = 0; i < 256; ++i) {
-        quint32 c = i;
-        for (int bit = 0; bit < 8; ++bit)
-            c = (c & 1) ? (c >> 1) ^ 0xEDB88320u : c >> 1;
-        table[i] = c;
-    }
-    return table;
-}
-const std::array<quint32, 256> kTable = makeTable();
-} // namespace
 
 quint8 xorChecksum(const char *data, int size)
 {
@@ -26,14 +10,6 @@ quint8 xorChecksum(const char *data, int size)
     for (int i = 0; i < size; ++i)
         sum ^= quint8(data[i]);
     return sum;
-}
-
-quint32 receiverCrc(const char *data, int size)
-{
-    quint32 crc = 0;
-    for (int i = 0; i < size; ++i)
-        crc = kTable[(crc ^ quint8(data[i])) & 0xff] ^ (crc >> 8);
-    return crc;
 }
 
 QByteArray frameSentence(const QByteArray &body)
@@ -55,7 +31,7 @@ QByteArray frameLog(const QByteArray &body)
     line += '#';
     line += body;
     line += '*';
-    line += QByteArray::number(receiverCrc(body.constData(), body.size()), 16).rightJustified(8, '0');
+    line += QByteArray::number(receiverCrc32(body.constData(), body.size()), 16).rightJustified(8, '0');
     line += "\r\n";
     return line;
 }

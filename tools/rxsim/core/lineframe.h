@@ -5,9 +5,8 @@
 namespace rxsim {
 
 // The receiver's framing: NMEA-style "$" sentences with an XOR checksum and "#"
-// logs with the CRC-32 that starts at zero and is not inverted at the end.
+// logs with the library's CRC-32.
 quint8 xorChecksum(const char *data, int size);
-quint32 receiverCrc(const char *data, int size);
 
 // "$" + body + "*" + two upper-case hex digits + "\r\n".
 QByteArray frameSentence(const QByteArray &body);

@@ -170,8 +170,8 @@ void BinaryDecoderTest::assemblesSatellitesInViewPerSystemCycle()
                                       "GPS,18,25,010,38,1,"
                                       "GLO,65,40,100,42,1,GLO,71,22,240,36,1,GLO,72,60,330,45,1"));
     // A Galileo cycle without signal ID and with an empty slot joins the list.
-    d.put(sentence("GAGSV,1,1,02,11,50,150,41,,,,"));
-    QVERIFY(d.latest("GSV").endsWith(",GLO,72,60,330,45,1,GAL,11,50,150,41,"));
+    d.put(sentence("GAGSV,1,1,03,11,50,150,41,,,,,12,30,200,35"));
+    QVERIFY(d.latest("GSV").endsWith(",GLO,72,60,330,45,1,GAL,11,50,150,41,,GAL,12,30,200,35,"));
     // A GPS cycle that loses a sentence leaves the last complete one, and so does a
     // later sentence of a cycle whose start was not seen.
     d.put(sentence("GPGSV,3,1,09,07,10,010,30,08,11,011,31,09,12,012,32,10,13,013,33,1"));
@@ -183,6 +183,11 @@ void BinaryDecoderTest::assemblesSatellitesInViewPerSystemCycle()
     // A complete cycle replaces the system's list.
     d.put(sentence("GPGSV,1,1,01,30,05,005,20,1"));
     QVERIFY(d.latest("GSV").startsWith("GPS,30,05,005,20,1,GLO,65,"));
+    // A sentence numbered above its total is refused and leaves the cycle around it whole.
+    d.put(sentence("GPGSV,2,1,05,02,45,120,44,05,30,060,40,12,70,300,47,15,12,200,35,1"));
+    d.put(sentence("GPGSV,1,2,05,07,10,010,30,1"));
+    d.put(sentence("GPGSV,2,2,05,18,25,010,38,1"));
+    QVERIFY(d.latest("GSV").contains("GPS,15,12,200,35,1,GPS,18,25,010,38,1,GLO,65,"));
 }
 
 void BinaryDecoderTest::keepsSatellitesUsedPerSystem()

@@ -271,6 +271,8 @@ void BinaryPageTest::descriptionFiles_data()
     QTest::newRow("four fields stop the filling")
         << QByteArray("P\tV\tU\tD\nA\ta\t1\nB\tb\t2\t9\n") << QStringList({"P", "V", "U", "D"})
         << QStringList({"A", ""}) << QStringList({"a", ""}) << false;
+    QTest::newRow("two header labels, four columns") << QByteArray("P\tV\nA\ta\tx\n") << QStringList({"P", "V"})
+                                                     << QStringList({"A"}) << QStringList({"a"}) << false;
     QTest::newRow("header only") << QByteArray("P\tV\tU\tD\n") << QStringList({"P", "V", "U", "D"})
                                  << QStringList() << QStringList() << false;
     QTest::newRow("non-ASCII text")

@@ -98,8 +98,9 @@ void GsvTableTest::multiConstellationDualFrequency()
 {
     ModuleHarness h(0);
     h.show("GSV");
-    // Two epochs: a satellite reported again is updated, never listed twice.
-    feedAll(h, kDualFrequencyEpoch);
+    // Two epochs, the first led by BDS so that its rows are new ones: a satellite
+    // reported again is updated, never listed twice.
+    feedAll(h, kDualFrequencyEpoch.mid(7) + kDualFrequencyEpoch.mid(0, 7));
     feedAll(h, kDualFrequencyEpoch);
 
     const QStringList expected = {"BDS 8", "BDS 11", "BDS 19", "BDS 26", "GPS 2", "GPS 5", "GPS 12", "GPS 13",

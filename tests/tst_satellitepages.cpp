@@ -94,6 +94,7 @@ void SatellitePagesTest::bestsatsShowsItsOwnCountField_data()
     QTest::newRow("integer limit") << QByteArray("2147483648") << 2;
     QTest::newRow("negative") << QByteArray("-1") << 1;
     QTest::newRow("empty") << QByteArray("") << 0;
+    QTest::newRow("seventy, every row filled") << QByteArray("70") << 70;
 }
 
 void SatellitePagesTest::bestsatsShowsItsOwnCountField()

@@ -42,8 +42,9 @@ inline uchar latin1Byte(QChar c)
 
 } // namespace
 
-quint32 receiverCrc32(const char *data, int size, quint32 crc)
+quint32 receiverCrc32(const char *data, int size)
 {
+    quint32 crc = 0;
     for (int i = 0; i < size; ++i)
         crc = kCrcTable[(crc ^ uchar(data[i])) & 0xff] ^ (crc >> 8);
     return crc;

@@ -9,5 +9,5 @@
 bool checkLineChecksum(QString line);
 
 // The receiver's CRC-32 (reflected polynomial 0xEDB88320, zero initial value, no
-// final XOR) of a byte run; crc continues an earlier run.
-quint32 receiverCrc32(const char *data, int size, quint32 crc = 0);
+// final XOR) of a byte run.
+quint32 receiverCrc32(const char *data, int size);

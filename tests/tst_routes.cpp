@@ -126,6 +126,8 @@ void RoutesTest::edgeLinesGoToTheirPage_data()
     QTest::newRow("TIMPOS comma compared") << 7 << sentenceNamed("TIMPOSX") << "";
     QTest::newRow("timing name after a talker") << 7 << sentenceNamed("GNBDSTIME") << "";
     QTest::newRow("timing framed as a log") << 7 << log("BDSTIME,1,2") << "";
+    QTest::newRow("index-3 timing framed as a log") << 7 << log("TPFINFO,1,2") << "";
+    QTest::newRow("timing with a bad checksum") << 7 << withBadChecksum(sentenceNamed("UTCTIME")) << "";
     QTest::newRow("timing not in mode 2") << 2 << sentenceNamed("BDSTIME") << "";
 }
 

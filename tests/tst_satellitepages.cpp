@@ -4,7 +4,6 @@
 #include "msgbasewidget.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -40,10 +39,6 @@ QByteArray psrdop(const QByteArray &log, const QByteArray &prns)
     return ReceiverLines::log(logBody(log, "1.5,1.2,0.9,1.0,0.8,5.0,9" + (prns.isEmpty() ? "" : "," + prns)));
 }
 
-QString countText(const ModuleHarness &h, const QString &label)
-{
-    return h.page(label)->findChild<QLineEdit *>()->text();
-}
 
 QString tableCell(const ModuleHarness &h, const QString &label, const char *table, int row, int column)
 {
@@ -76,11 +71,11 @@ void SatellitePagesTest::satvisRowsFollowThreeLeadingFields()
     ModuleHarness h(1);
     h.show("Satvis");
     h.feed(log(logBody("SATVISA", "TRUE,TRUE,3," + groups(3, 7))));
-    QCOMPARE(countText(h, "Satvis"), QString("3"));
+    QCOMPARE(h.countText("Satvis"), QString("3"));
     QCOMPARE(h.cell("Satvis", 0, 0), QString("s0c0"));
     QCOMPARE(h.cell("Satvis", 2, 6), QString("s2c6"));
     h.feed(log(logBody("SATVISA", "TRUE,TRUE,1," + groups(1, 7, "t"))));
-    QCOMPARE(countText(h, "Satvis"), QString("1"));
+    QCOMPARE(h.countText("Satvis"), QString("1"));
     QCOMPARE(h.cell("Satvis", 0, 0), QString("t0c0"));
     QCOMPARE(h.cell("Satvis", 1, 0), QString());
     QCOMPARE(h.cell("Satvis", 2, 6), QString());
@@ -104,7 +99,7 @@ void SatellitePagesTest::bestsatsShowsItsOwnCountField()
     ModuleHarness h(1);
     h.show("Bestsats");
     h.feed(log(logBody("BESTSATSA", countField + (groups ? "," + ::groups(groups, 4) : ""))));
-    QCOMPARE(countText(h, "Bestsats"), QString(countField));
+    QCOMPARE(h.countText("Bestsats"), QString(countField));
     for (int row = 0; row < groups; ++row)
         QCOMPARE(h.cell("Bestsats", row, 3), QString("s%1c3").arg(row));
     QCOMPARE(h.cell("Bestsats", groups, 0), QString());
@@ -115,7 +110,7 @@ void SatellitePagesTest::satxyz2StopsAtThirtyRows()
     ModuleHarness h(2);
     h.show("Satxyz2");
     h.feed(log(logBody("SATXYZ2A", "33," + groups(33, 10))));
-    QCOMPARE(countText(h, "Satxyz2"), QString("33"));
+    QCOMPARE(h.countText("Satxyz2"), QString("33"));
     QCOMPARE(h.table("Satxyz2")->rowCount(), 30);
     QCOMPARE(h.cell("Satxyz2", 29, 9), QString("s29c9"));
 }
@@ -128,9 +123,9 @@ void SatellitePagesTest::satvis2GathersOneTablePerGroup()
     // Lines between the opening and closing ones are taken unchecked.
     h.feed(satvis2("GLONASS", 3, false));
     h.feed(satvis2("BDS", 1));
-    QCOMPARE(countText(h, "Satvis2"), QString());
+    QCOMPARE(h.countText("Satvis2"), QString());
     h.feed(satvis2("SBAS", 1));
-    QCOMPARE(countText(h, "Satvis2"), QString("7"));
+    QCOMPARE(h.countText("Satvis2"), QString("7"));
     QCOMPARE(h.taken("Satvis2"), quint64(4));
     const char *systems[] = {"GPS", "GPS", "GLONASS", "GLONASS", "GLONASS", "BDS", "SBAS"};
     for (int row = 0; row < 7; ++row)
@@ -140,7 +135,7 @@ void SatellitePagesTest::satvis2GathersOneTablePerGroup()
     QCOMPARE(h.cell("Satvis2", 7, 0), QString());
     // The opening and closing lines are checked.
     h.feed(satvis2("SBAS", 1, false));
-    QCOMPARE(countText(h, "Satvis2"), QString("7"));
+    QCOMPARE(h.countText("Satvis2"), QString("7"));
     QCOMPARE(h.taken("Satvis2"), quint64(4));
 }
 
@@ -150,16 +145,16 @@ void SatellitePagesTest::satvis2GroupWithoutClosingLine()
     h.show("Satvis2");
     for (const QByteArray &system : {QByteArray("GPS"), QByteArray("GLONASS"), QByteArray("SBAS")})
         h.feed(satvis2(system, 2));
-    QCOMPARE(countText(h, "Satvis2"), QString("6"));
+    QCOMPARE(h.countText("Satvis2"), QString("6"));
     h.feed(satvis2("GPS", 1));
     h.feed(satvis2("GALILEO", 1));
-    QCOMPARE(countText(h, "Satvis2"), QString("6"));
+    QCOMPARE(h.countText("Satvis2"), QString("6"));
     QCOMPARE(h.cell("Satvis2", 1, 0), QString("GALILEO"));
     QCOMPARE(h.cell("Satvis2", 2, 0), QString());
     // The next group starts over at the top.
     h.feed(satvis2("GPS", 1));
     h.feed(satvis2("SBAS", 0));
-    QCOMPARE(countText(h, "Satvis2"), QString("1"));
+    QCOMPARE(h.countText("Satvis2"), QString("1"));
     QCOMPARE(h.cell("Satvis2", 0, 0), QString("GPS"));
     QCOMPARE(h.cell("Satvis2", 1, 0), QString());
 }
@@ -171,14 +166,14 @@ void SatellitePagesTest::satvis2StaysInsideItsTable()
     h.feed(satvis2("GPS", 50));
     h.feed(satvis2("GLONASS", 50));
     h.feed(satvis2("SBAS", 0));
-    QCOMPARE(countText(h, "Satvis2"), QString("100"));
+    QCOMPARE(h.countText("Satvis2"), QString("100"));
     QCOMPARE(h.table("Satvis2")->rowCount(), 70);
     QCOMPARE(h.cell("Satvis2", 69, 0), QString("GLONASS"));
     // Lines too short to hold a satellite, or even the leading fields.
     h.feed(log(logBody("SATVIS2A", "GPS")));
     h.feed(log(logBody("SATVIS2A", "GLONASS,1,0,5,R0c0")));
     h.feed(log(logBody("SATVIS2A", "SBAS,1")));
-    QCOMPARE(countText(h, "Satvis2"), QString("0"));
+    QCOMPARE(h.countText("Satvis2"), QString("0"));
     QCOMPARE(h.cell("Satvis2", 0, 0), QString());
     QCOMPARE(h.cell("Satvis2", 69, 0), QString());
 }

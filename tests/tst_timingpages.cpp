@@ -103,8 +103,6 @@ private slots:
     void lastFieldMayBeMissing();
     void ppsinfoNeedsEveryField();
     void svnumShowsOddFieldsWithoutCountTest();
-    void misframedOrCorruptLinesRefused_data();
-    void misframedOrCorruptLinesRefused();
     void bdtFollowsLanguageChange();
 };
 
@@ -200,41 +198,6 @@ void TimingPagesTest::svnumShowsOddFieldsWithoutCountTest()
     QCOMPARE(h.taken("SVNUM"), quint64(3));
 }
 
-void TimingPagesTest::misframedOrCorruptLinesRefused_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QByteArray>("line");
-    const auto body = [](const char *label) {
-        const TimingSentence &s = sentenceOf(label);
-        return QByteArray(s.name) + ',' + s.values.join(',');
-    };
-    QByteArray badXor = sentence(body("BDSTIME"));
-    badXor[badXor.size() - 3] = badXor.at(badXor.size() - 3) == '0' ? '1' : '0';
-    QTest::newRow("#BDSTIME") << "BDSTIME" << log(body("BDSTIME"));
-    QTest::newRow("#GALTIME") << "GATTIME" << log(body("GATTIME"));
-    QTest::newRow("#LSINFO") << "LSINFO" << log(body("LSINFO"));
-    QTest::newRow("#PPSINFO") << "PPSINFO" << log(body("PPSINFO"));
-    QTest::newRow("#JAM") << "JAM" << log(body("JAM"));
-    // These two compare only from index 3, so the framing character alone decides.
-    QTest::newRow("#TPFINFO") << "TPFINFO" << log(body("TPFINFO"));
-    QTest::newRow("#SVNUM") << "SVNUM" << log(body("SVNUM"));
-    QTest::newRow("unframed") << "BDSTIME" << sentence(body("BDSTIME")).mid(1);
-    QTest::newRow("wrong XOR") << "BDSTIME" << badXor;
-    QTest::newRow("no checksum") << "UTCTIME" << QByteArray("$" + body("UTCTIME") + "\r\n");
-}
-
-void TimingPagesTest::misframedOrCorruptLinesRefused()
-{
-    QFETCH(QString, label);
-    QFETCH(QByteArray, line);
-    ModuleHarness h(kTimingMode);
-    h.show(label);
-    h.feed(line);
-    QCOMPARE(h.module().lineCount(), quint64(1));
-    QCOMPARE(h.takenByAny(), quint64(0));
-    QVERIFY(!h.isMarked(label));
-    QCOMPARE(h.cell(label, 0, 1), QString());
-}
 
 void TimingPagesTest::bdtFollowsLanguageChange()
 {

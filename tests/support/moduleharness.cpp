@@ -2,6 +2,7 @@
 
 #include "msgbasewidget.h"
 
+#include <QLineEdit>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -71,6 +72,11 @@ QStringList ModuleHarness::pageLabels() const
         labels << (page && page->treeItem() ? page->treeItem()->text(0) : QString());
     }
     return labels;
+}
+
+QString ModuleHarness::countText(const QString &label) const
+{
+    return page(label)->findChild<QLineEdit *>()->text();
 }
 
 quint64 ModuleHarness::taken(const QString &label) const

@@ -32,6 +32,8 @@ public:
     int pageCount() const { return m_stack.count(); }
     QStringList pageLabels() const;
     bool isMarked(const QString &label) const;
+    // The page's count box (its first line edit).
+    QString countText(const QString &label) const;
     // Lines taken by the pages with this label, and by any page.
     quint64 taken(const QString &label) const;
     quint64 takenByAny() const;

@@ -26,7 +26,6 @@ private slots:
     void fieldCountRules();
     void realReceiverSentences_data();
     void realReceiverSentences();
-    void hiddenPageTakesItsLineWithoutUpdating();
     void corruptAndOversizedLinesAreRefusedQuietly();
     void lineSplitAcrossChunks();
 };
@@ -145,15 +144,6 @@ void NmeaPagesTest::realReceiverSentences()
         QCOMPARE(h.cell(label, row, 1), QString(fields.value(row + 1)));
 }
 
-void NmeaPagesTest::hiddenPageTakesItsLineWithoutUpdating()
-{
-    ModuleHarness h(0);
-    h.show("GLL");
-    h.feed(sentence("GPZDA,082710.00,16,09,2002,00,00"));
-    QVERIFY(h.isMarked("ZDA"));
-    QCOMPARE(h.cell("ZDA", 0, 1), QString());
-    QCOMPARE(h.taken("ZDA"), quint64(1));
-}
 
 void NmeaPagesTest::corruptAndOversizedLinesAreRefusedQuietly()
 {

@@ -53,7 +53,6 @@ private slots:
     void longLogThenShortLeavesNoStaleRows();
     void rowsStopAtTheCapButTheCountDoesNot_data();
     void rowsStopAtTheCapButTheCountDoesNot();
-    void eachPageTakesOnlyItsOwnHeader();
     void lineWithoutBodyBlanksAndIsRefused();
     void truncatedGroupsNeverReadPastTheList();
     void obsvmScalesCNoAndNamesSignals();
@@ -120,18 +119,6 @@ void ObservationPagesTest::rowsStopAtTheCapButTheCountDoesNot()
     QVERIFY(!rowIsEmpty(h, label, 0));
 }
 
-void ObservationPagesTest::eachPageTakesOnlyItsOwnHeader()
-{
-    ModuleHarness h(2);
-    h.show("Range");
-    h.feed(log(logBody("RANGEHA", observations(2, 10))));
-    QVERIFY(rowIsEmpty(h, "Range", 0));
-    QVERIFY(!h.isMarked("Range"));
-    // Taken by the hidden RANGEH page without touching its table.
-    QVERIFY(h.isMarked("Rangeh"));
-    QVERIFY(rowIsEmpty(h, "Rangeh", 0));
-    QCOMPARE(h.countText("Rangeh"), QString());
-}
 
 void ObservationPagesTest::lineWithoutBodyBlanksAndIsRefused()
 {

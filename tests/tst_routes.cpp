@@ -103,6 +103,7 @@ void RoutesTest::edgeLinesGoToTheirPage_data()
     QTest::newRow("BESTNAVH, any next character") << 1 << logNamed("BESTNAVHAX") << "BestnavH";
     QTest::newRow("BESTNAVHB") << 1 << logNamed("BESTNAVHB") << "";
     QTest::newRow("MATCHEDPOSH") << 1 << logNamed("MATCHEDPOSHA") << "Matchposh";
+    QTest::newRow("RANGEH") << 2 << logNamed("RANGEHA") << "Rangeh";
     QTest::newRow("MATCHEDPOS, any next character") << 1 << logNamed("MATCHEDPOSAX") << "Matchpos";
     QTest::newRow("GPSION of another format") << 1 << logNamed("GPSIONB") << "Gpsion";
     QTest::newRow("GALUTC with a suffix") << 1 << logNamed("GALUTC_ANY") << "Galutc";

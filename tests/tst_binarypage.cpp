@@ -74,7 +74,6 @@ private slots:
     void treeListsTheKindsOfEachMode();
     void marksReceivedKindsEveryFourSeconds();
     void clickedKindShowsItsDescribedFieldsLive();
-    void chineseReadsTheChineseDescriptions();
     void systemChangeBlanksValues();
     void satelliteListsFollowTheChosenSystem();
     void hiddenPageShowsNothing();
@@ -172,17 +171,6 @@ void BinaryPageTest::clickedKindShowsItsDescribedFieldsLive()
     QCOMPARE(cell(h, 1, 1), QString());
     h.feed(nmeaEpoch(7));
     QCOMPARE(cell(h, 4, 1), QString("2024"));
-}
-
-void BinaryPageTest::chineseReadsTheChineseDescriptions()
-{
-    CurrentDirectory directory(QStringLiteral(MESSAGEVIEW_SOURCE_DIR));
-    ModuleHarness h(5, QStringLiteral("CH"));
-    h.show("GGA");
-    QCOMPARE(header(h, 0), QString("参数"));
-    QCOMPARE(cell(h, 1, 0), QString("UTC 时间"));
-    QCOMPARE(cell(h, 11, 3), QString("大地水准面与 WGS84 椭球面之间的距离"));
-    QCOMPARE(page(h)->findChild<QLabel *>("label_system")->text(), QString("系统："));
 }
 
 void BinaryPageTest::systemChangeBlanksValues()

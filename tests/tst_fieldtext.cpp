@@ -27,7 +27,6 @@ private slots:
     void splitMatchesRegularExpressionSplit();
     void headerComparisonMatchesMid_data();
     void headerComparisonMatchesMid();
-    void headerComparisonMatchesMidOnRandomLines();
 };
 
 void FieldTextTest::splitMatchesRegularExpressionSplit()
@@ -72,19 +71,6 @@ void FieldTextTest::headerComparisonMatchesMid()
     QFETCH(QString, literal);
     QCOMPARE(textAtEquals(line, offset, length, QLatin1String(literal.toLatin1())),
              line.mid(offset, length) == literal);
-}
-
-void FieldTextTest::headerComparisonMatchesMidOnRandomLines()
-{
-    QRandomGenerator random(5);
-    for (int round = 0; round < 5000; ++round) {
-        const QString line = randomLine(random, 12);
-        const QString literal = randomLine(random, 5);
-        const int offset = int(random.bounded(8));
-        const int length = int(random.bounded(7));
-        QCOMPARE(textAtEquals(line, offset, length, QLatin1String(literal.toLatin1())),
-                 line.mid(offset, length) == literal);
-    }
 }
 
 QTEST_APPLESS_MAIN(FieldTextTest)

@@ -27,7 +27,6 @@ private slots:
     void realReceiverSentences_data();
     void realReceiverSentences();
     void corruptAndOversizedLinesAreRefusedQuietly();
-    void lineSplitAcrossChunks();
 };
 
 void NmeaPagesTest::everyTalkerAndTheHighRateVariants()
@@ -164,19 +163,6 @@ void NmeaPagesTest::corruptAndOversizedLinesAreRefusedQuietly()
     for (const QString &label : h.pageLabels())
         QVERIFY2(!h.isMarked(label), qPrintable(label));
     QCOMPARE(h.cell("GGA", 0, 1), QString());
-}
-
-void NmeaPagesTest::lineSplitAcrossChunks()
-{
-    ModuleHarness h(0);
-    h.show("VTG");
-    const QByteArray line = sentence("GNVTG,77.52,T,,M,0.004,N,0.008,K,A");
-    const int cuts[] = {0, 4, 11, line.size() - 2, line.size() - 1, line.size()};
-    for (int i = 0; i + 1 < int(std::size(cuts)); ++i) {
-        h.feed(line.mid(cuts[i], cuts[i + 1] - cuts[i]));
-        QCOMPARE(h.cell("VTG", 0, 1), QString(i + 2 < int(std::size(cuts)) ? "" : "77.52"));
-    }
-    QCOMPARE(h.taken("VTG"), quint64(1));
 }
 
 QTEST_MAIN(NmeaPagesTest)

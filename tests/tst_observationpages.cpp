@@ -58,8 +58,6 @@ private slots:
     void obsvmScalesCNoAndNamesSignals();
     void signalNames_data();
     void signalNames();
-    void longValuesFitTheirColumns_data();
-    void longValuesFitTheirColumns();
 };
 
 void ObservationPagesTest::longLogThenShortLeavesNoStaleRows_data()
@@ -203,38 +201,6 @@ void ObservationPagesTest::signalNames()
     QFETCH(int, status);
     QFETCH(QString, name);
     QCOMPARE(trackingStatusSignalName(status), name);
-}
-
-void ObservationPagesTest::longValuesFitTheirColumns_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<int>("column");
-    const QByteArray range = log(logBody("RANGEA", "1,6,0,24487101.823712,0.911,-129668537.237551,0.024,541.844,39.1,"
-                                                   "742.302,00000000"));
-    QTest::newRow("Range psr") << "Range" << range << 2;
-    QTest::newRow("Range adr") << "Range" << range << 4;
-    QTest::newRow("Obsvm adr") << "Obsvm"
-                               << log(logBody("OBSVMA", "1,0,12,21405347.129731,-112487593.570142,0.1,0.01,-12.5,"
-                                                        "4512,0,100.5,02240000"))
-                               << 3;
-}
-
-void ObservationPagesTest::longValuesFitTheirColumns()
-{
-    QFETCH(QString, label);
-    QFETCH(QByteArray, line);
-    QFETCH(int, column);
-    ModuleHarness h(2);
-    h.show(label);
-    h.feed(line);
-    QTableWidget *table = h.table(label);
-    const QString text = table->item(0, column)->text();
-    QVERIFY(table->fontMetrics().horizontalAdvance(text) < table->columnWidth(column));
-    QCOMPARE(table->item(0, column)->toolTip(), text);
-    // Short values need neither.
-    QCOMPARE(table->item(0, 1)->toolTip(), QString());
-    QCOMPARE(table->columnWidth(1), table->horizontalHeader()->defaultSectionSize());
 }
 
 QTEST_MAIN(ObservationPagesTest)

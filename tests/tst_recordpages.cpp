@@ -89,7 +89,6 @@ private slots:
     void pagesMadeOutsideTheCatalogue();
     void statusDescriptionsAndRetranslation_data();
     void statusDescriptionsAndRetranslation();
-    void statusWordsShownRaw();
     void malformedLinesAreRefusedQuietly();
 };
 
@@ -225,34 +224,6 @@ void RecordPagesTest::statusDescriptionsAndRetranslation()
     QCOMPARE(h.cell(label, 0, 3), statusText);
     QCOMPARE(h.cell(label, 1, 3), typeText);
     QCOMPARE(h.cell(label, 0, 1), QString("UNKNOWN_STATUS"));
-}
-
-void RecordPagesTest::statusWordsShownRaw()
-{
-    ModuleHarness h(2);
-
-    // BESTXYZ describes only its position status and type, not those of the velocity.
-    h.show("Bestxyz");
-    QByteArray xyz = "SOL_COMPUTED,NARROW_INT," + numberedFields(6, "p") + ",INSUFFICIENT_OBS,DOPPLER_VELOCITY,"
-        + numberedFields(18, "v");
-    h.feed(log(logBody("BESTXYZA", xyz)));
-    QCOMPARE(h.cell("Bestxyz", 1, 3), QString("Narrow-lane fixed solution"));
-    QCOMPARE(h.cell("Bestxyz", 8, 1), QString("INSUFFICIENT_OBS"));
-    QCOMPARE(h.cell("Bestxyz", 8, 3), QString("Solution status"));
-    QCOMPARE(h.cell("Bestxyz", 9, 1), QString("DOPPLER_VELOCITY"));
-    QCOMPARE(h.cell("Bestxyz", 9, 3), QString("Velocity type"));
-
-    // BESTNAV describes none of its status words.
-    h.show("Bestnav");
-    QByteArray nav = "SOL_COMPUTED,NARROW_INT," + numberedFields(19, "p") + ",SOL_COMPUTED,DOPPLER_VELOCITY,"
-        + numberedFields(7, "v");
-    h.feed(log(logBody("BESTNAVA", nav)));
-    QCOMPARE(h.cell("Bestnav", 0, 1), QString("SOL_COMPUTED"));
-    QCOMPARE(h.cell("Bestnav", 0, 3), QString());
-    QCOMPARE(h.cell("Bestnav", 1, 3), QString());
-    QCOMPARE(h.cell("Bestnav", 22, 1), QString("DOPPLER_VELOCITY"));
-    QCOMPARE(h.cell("Bestnav", 21, 3), QString("Solution Status"));
-    QCOMPARE(h.cell("Bestnav", 22, 3), QString("Velocity type"));
 }
 
 void RecordPagesTest::malformedLinesAreRefusedQuietly()

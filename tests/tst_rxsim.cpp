@@ -99,10 +99,8 @@ class RxsimTest : public QObject
 private slots:
     void everyLineIsTakenByItsPage_data();
     void everyLineIsTakenByItsPage();
-    void sameSeedSameBytes();
     void faultsDoWhatTheySay_data();
     void faultsDoWhatTheySay();
-    void splitDeliveryChangesNothing();
     void messagesOfOneInstantAgree();
     void clocksAndMotionAgree();
     void theSkyMovesSmoothly();
@@ -156,32 +154,6 @@ void RxsimTest::everyLineIsTakenByItsPage()
             QVERIFY2(!sent.page.isEmpty(), sent.line.constData());
     }
     expectEveryLineOnItsPage(consoleMode, lines);
-}
-
-void RxsimTest::sameSeedSameBytes()
-{
-    SimulatorSettings noisy = settingsFor(2, 42);
-    noisy.faults.corruptChecksum = 0.05;
-    noisy.faults.garbage = 0.05;
-    noisy.faults.splitMaxBytes = 50;
-    const Run first = simulate(noisy, 20000);
-    const Run second = simulate(noisy, 20000);
-    QVERIFY(first.bytes.size() > 100000);
-    QCOMPARE(first.bytes, second.bytes);
-    QCOMPARE(first.chunks, second.chunks);
-
-    SimulatorSettings otherSeed = noisy;
-    otherSeed.seed = 43;
-    QVERIFY(simulate(otherSeed, 20000).bytes != first.bytes);
-
-    // Faults draw their own numbers: switching them off leaves the content alone.
-    const Run clean = simulate(settingsFor(2, 42), 20000);
-    QList<QByteArray> faultyLines, cleanLines;
-    for (const auto &sent : first.lines)
-        faultyLines << sent.line;
-    for (const auto &sent : clean.lines)
-        cleanLines << sent.line;
-    QCOMPARE(faultyLines, cleanLines);
 }
 
 void RxsimTest::faultsDoWhatTheySay_data()
@@ -238,29 +210,6 @@ void RxsimTest::faultsDoWhatTheySay()
     for (const QString &label : h.pageLabels())
         QCOMPARE(h.taken(label), t.takenFor(label));
     QCOMPARE(h.module().lineCount(), t.linesCut);
-}
-
-void RxsimTest::splitDeliveryChangesNothing()
-{
-    SimulatorSettings split = settingsFor(2, 3);
-    split.faults.splitMaxBytes = 7;
-    const Run pieces = simulate(split, 12000);
-    const Run whole = simulate(settingsFor(2, 3), 12000);
-    QCOMPARE(pieces.bytes, whole.bytes);
-    int smallest = 1 << 30, largest = 0;
-    for (const QByteArray &chunk : pieces.chunks) {
-        smallest = qMin(smallest, chunk.size());
-        largest = qMax(largest, chunk.size());
-    }
-    QCOMPARE(smallest, 1);
-    QCOMPARE(largest, 7);
-
-    ModuleHarness byPiece(2), atOnce(2);
-    for (const QByteArray &chunk : pieces.chunks)
-        byPiece.feed(chunk);
-    atOnce.feed(whole.bytes);
-    QCOMPARE(byPiece.module().acceptedLineCounts(), atOnce.module().acceptedLineCounts());
-    QCOMPARE(byPiece.module().lineCount(), quint64(whole.lines.size()));
 }
 
 namespace {

@@ -75,6 +75,8 @@ report() {
         while (<$r>) {
             chomp;
             my ($id, $status, $killers, $seconds, $functions) = split /\t/;
+            # Marked equivalent after it ran: it no longer counts.
+            next if exists $mutant{$id} && $mutant{$id}{note} =~ /^equivalent/;
             push @order, $id unless exists $status{$id};
             $status{$id} = $status;
             $killers{$id} = [grep { length } split /,/, $killers // ""];

@@ -38,7 +38,6 @@ private slots:
     void wrongFieldCountIsRefusedYetStartsABurst_data();
     void wrongFieldCountIsRefusedYetStartsABurst();
     void hiddenPageStillWipesAtBurstStart();
-    void longValuesFitTheirColumns();
 
 private:
     void addPages();
@@ -154,15 +153,6 @@ void EphemerisPagesTest::hiddenPageStillWipesAtBurstStart()
     h.feed(log(logBody("SOMELOGA", "1")) + ephemeris("GALEPHEMA", 38, "c"));
     QCOMPARE(h.taken("Galephem"), quint64(3));
     QCOMPARE(filledRows(h, "Galephem"), 0);
-}
-
-void EphemerisPagesTest::longValuesFitTheirColumns()
-{
-    ModuleHarness h(1);
-    h.show("Gpsephemeris");
-    h.feed(log(logBody("GPSEPHEMERISA", numberedFields(32, "a_").replace("a_8", "26559700.123456789"))));
-    QTableWidget *table = h.table("Gpsephemeris");
-    QVERIFY(table->fontMetrics().horizontalAdvance("26559700.123456789") < table->columnWidth(8));
 }
 
 QTEST_MAIN(EphemerisPagesTest)

@@ -86,7 +86,6 @@ private slots:
     void foreignTalkersNeverTouchOtherSystems();
     void staleSignalsAndSatellitesAreSwept();
     void boundedStores();
-    void hiddenPageAndSplitLine();
 };
 
 void GsvTableTest::multiConstellationDualFrequency()
@@ -283,21 +282,6 @@ void GsvTableTest::boundedStores()
     for (int signal = 1; signal <= 7; ++signal)
         feedAll(h, {"GAGSV,1,1,01,03,47,102," + QByteArray::number(40 + signal) + "," + QByteArray::number(signal)});
     QCOMPARE(rowOf(h, "GAL", "3").cn0, QString("41/42/43/44/45"));
-}
-
-void GsvTableTest::hiddenPageAndSplitLine()
-{
-    ModuleHarness h(0);
-    h.show("GGA");
-    feedAll(h, {"GPGSV,1,1,01,05,55,287,45"});
-    QVERIFY(h.isMarked("GSV"));
-    h.show("GSV");
-    QCOMPARE(h.table("GSV")->rowCount(), 0);
-
-    const QByteArray line = sentence("GAGSV,1,1,01,03,47,102,42,7");
-    for (char byte : line)
-        h.feed(QByteArray(1, byte));
-    QCOMPARE(satellites(h), QStringList{"GAL 3"});
 }
 
 QTEST_MAIN(GsvTableTest)

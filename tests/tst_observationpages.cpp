@@ -81,6 +81,8 @@ void ObservationPagesTest::longLogThenShortLeavesNoStaleRows()
     QCOMPARE(h.countText(label), QString("150"));
     QCOMPARE(h.cell(label, 149, 0), QString("o149c0"));
     QCOMPARE(h.cell(label, 149, stride - 2), QString("o149c%1").arg(stride - 2));
+    // The tracking status word shows as the name of its signal.
+    QCOMPARE(h.cell(label, 149, stride - 1), QString("GPS_L1 C/A"));
 
     h.feed(ReceiverLines::log(logBody(log, observations(3, stride).replace("o", "n"))));
     QCOMPARE(h.countText(label), QString("3"));

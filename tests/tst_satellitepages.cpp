@@ -55,7 +55,6 @@ private slots:
     void satvisRowsFollowThreeLeadingFields();
     void bestsatsShowsItsOwnCountField_data();
     void bestsatsShowsItsOwnCountField();
-    void satxyz2StopsAtThirtyRows();
     void satvis2GathersOneTablePerGroup();
     void satvis2GroupWithoutClosingLine();
     void satvis2StaysInsideItsTable();
@@ -103,16 +102,6 @@ void SatellitePagesTest::bestsatsShowsItsOwnCountField()
     for (int row = 0; row < groups; ++row)
         QCOMPARE(h.cell("Bestsats", row, 3), QString("s%1c3").arg(row));
     QCOMPARE(h.cell("Bestsats", groups, 0), QString());
-}
-
-void SatellitePagesTest::satxyz2StopsAtThirtyRows()
-{
-    ModuleHarness h(2);
-    h.show("Satxyz2");
-    h.feed(log(logBody("SATXYZ2A", "33," + groups(33, 10))));
-    QCOMPARE(h.countText("Satxyz2"), QString("33"));
-    QCOMPARE(h.table("Satxyz2")->rowCount(), 30);
-    QCOMPARE(h.cell("Satxyz2", 29, 9), QString("s29c9"));
 }
 
 void SatellitePagesTest::satvis2GathersOneTablePerGroup()

@@ -69,6 +69,8 @@ void BinaryDecoderTest::listsTheKindsSeenInTableOrder()
     d.put(nmeaEpoch(1));
     // TXT is framed but is not one of the decoder's kinds.
     QCOMPARE(d.kinds(), QStringList({"GGA", "RMC", "GSA", "GSV", "GBS", "VTG", "ZDA"}));
+    // A kind's name is whole: one that begins a longer name does not stand for it.
+    QCOMPARE(gnssMessageKindByName(u"Signal Information Structure")->id, 78u);
 }
 
 void BinaryDecoderTest::keepsTheLatestRecordOfEachKind()
@@ -169,9 +171,10 @@ void BinaryDecoderTest::assemblesSatellitesInViewPerSystemCycle()
     QCOMPARE(d.latest("GSV"), QString("GPS,02,45,120,44,1,GPS,05,30,060,40,1,GPS,12,70,300,47,1,GPS,15,12,200,35,1,"
                                       "GPS,18,25,010,38,1,"
                                       "GLO,65,40,100,42,1,GLO,71,22,240,36,1,GLO,72,60,330,45,1"));
-    // A Galileo cycle without signal ID and with an empty slot joins the list.
-    d.put(sentence("GAGSV,1,1,03,11,50,150,41,,,,,12,30,200,35"));
-    QVERIFY(d.latest("GSV").endsWith(",GLO,72,60,330,45,1,GAL,11,50,150,41,,GAL,12,30,200,35,"));
+    // A Galileo cycle without signal ID, with a satellite not yet placed and an empty
+    // slot, joins the list.
+    d.put(sentence("GAGSV,1,1,03,11,,150,41,,,,,12,30,200,35"));
+    QVERIFY(d.latest("GSV").endsWith(",GLO,72,60,330,45,1,GAL,11,,150,41,,GAL,12,30,200,35,"));
     // A GPS cycle that loses a sentence leaves the last complete one, and so does a
     // later sentence of a cycle whose start was not seen.
     d.put(sentence("GPGSV,3,1,09,07,10,010,30,08,11,011,31,09,12,012,32,10,13,013,33,1"));

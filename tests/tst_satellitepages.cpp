@@ -181,16 +181,18 @@ void SatellitePagesTest::dopSortsPrnsIntoConstellations()
     QFETCH(QByteArray, log);
     ModuleHarness h(1);
     h.show(label);
-    QByteArray prns;
+    // The GPS range's end, more GPS PRNs than rows, the other ranges' ends, then PRNs
+    // of no constellation, unreadable and huge ones.
+    QByteArray prns = "32,";
     for (int prn = 1; prn <= 25; ++prn)
         prns += QByteArray::number(prn) + ",";
-    // Each range's ends, then PRNs of no constellation, unreadable and huge ones.
-    prns += "32,33,37,38,61,75,110,120,141,161,223,"
+    prns += "33,37,38,61,75,110,120,141,161,223,"
             "0,62,74,111,119,142,160,224,-5,x,4294967297,-2147483648";
     h.feed(psrdop(log, prns));
     QCOMPARE(tableCell(h, label, "tableWidget", 0, 1), QString("1.5"));
     QCOMPARE(tableCell(h, label, "tableWidget", 6, 1), QString("9"));
-    QCOMPARE(tableCell(h, label, "tableWidget_Prn", 19, 0), QString("20"));
+    QCOMPARE(tableCell(h, label, "tableWidget_Prn", 0, 0), QString("32"));
+    QCOMPARE(tableCell(h, label, "tableWidget_Prn", 19, 0), QString("19"));
     const QStringList columns[] = {{}, {"33", "37"}, {"38", "61"}, {"75", "110"}, {"120", "141"}, {"161", "223"}};
     for (int column = 1; column < 6; ++column) {
         for (int row = 0; row < 3; ++row)

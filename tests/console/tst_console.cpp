@@ -3,6 +3,7 @@
 #include "messageviewmodules.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
@@ -66,7 +67,8 @@ private slots:
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
-    void binaryModeFindsDescriptionsFromAnywhere();
+    void binaryModeFindsItsFilesBesideTheProgram();
+    void retriesBackOffToHalfAMinute();
     void commandLineWithoutDisplay_data();
     void commandLineWithoutDisplay();
 };
@@ -323,7 +325,9 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
     QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
 }
 
-void ConsoleTest::binaryModeFindsDescriptionsFromAnywhere()
+// Installed as users install it: the descriptions found from any working directory,
+// and the maker's decode library beside the program (the test decoder, copied there).
+void ConsoleTest::binaryModeFindsItsFilesBesideTheProgram()
 {
     QTemporaryDir elsewhere;
     const QString previous = QDir::currentPath();
@@ -335,6 +339,20 @@ void ConsoleTest::binaryModeFindsDescriptionsFromAnywhere()
     auto *table = window.stack()->currentWidget()->findChild<QTableWidget *>();
     QCOMPARE(table->rowCount(), 15);
     QCOMPARE(table->item(1, 0)->text(), QString("UTC time"));
+    const QString decoder = window.stack()->currentWidget()->findChild<QLabel *>("label_decoder")->text();
+    QVERIFY2(decoder.startsWith("Decoder: the maker's GNSSDecode library (" + QCoreApplication::applicationDirPath()),
+             qPrintable(decoder));
+}
+
+void ConsoleTest::retriesBackOffToHalfAMinute()
+{
+    Backoff backoff;
+    QList<int> delays;
+    for (int i = 0; i < 7; ++i)
+        delays << backoff.nextDelayMs();
+    QCOMPARE(delays, (QList<int>{1000, 2000, 4000, 8000, 16000, 30000, 30000}));
+    backoff.reset();
+    QCOMPARE(backoff.nextDelayMs(), 1000);
 }
 
 void ConsoleTest::commandLineWithoutDisplay_data()

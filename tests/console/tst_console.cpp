@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
@@ -142,6 +143,15 @@ void ConsoleTest::tcpReceivesReconnectsAndSendsCommands()
     QVERIFY(window.sendCommandText("  LOG BESTPOSA ONTIME 1 "));
     QTRY_VERIFY(peer->bytesAvailable() > 0 || peer->waitForReadyRead(100));
     QCOMPARE(peer->readAll(), QByteArray("LOG BESTPOSA ONTIME 1\r\n"));
+    // Up and Down walk the commands sent, Down past the last one to an empty line.
+    QVERIFY(window.sendCommandText("LOG VERSION"));
+    auto *commandLine = window.findChild<QLineEdit *>("commandLine");
+    QStringList walked;
+    for (Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down}) {
+        QTest::keyClick(commandLine, key);
+        walked << commandLine->text();
+    }
+    QCOMPARE(walked, QStringList({"LOG VERSION", "LOG BESTPOSA ONTIME 1", "LOG VERSION", ""}));
 
     // The peer goes away with half a line sent; the console retries and, once back,
     // still completes nothing stale but takes the next full line.

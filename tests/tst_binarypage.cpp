@@ -203,6 +203,9 @@ void BinaryPageTest::satelliteListsFollowTheChosenSystem()
     h.feed(nmeaEpoch(2));
     QCOMPARE(columnTexts(h, 1), QStringList({"65", "71", "72"}));
     QCOMPARE(columnTexts(h, 0), repeated(3, "GLO"));
+    // A shorter list leaves no rows of the longer one.
+    h.feed(ReceiverLines::sentence("GLGSV,1,1,01,65,40,100,42,1"));
+    QCOMPARE(columnTexts(h, 1), QStringList({"65"}));
 
     // Satellites used: one row per system, whichever is chosen.
     h.show("GSA");

@@ -379,6 +379,7 @@ void ConsoleTest::commandLineWithoutDisplay_data()
     QTest::newRow("window") << QStringList{"--mode", "0"} << 1 << "no display";
     QTest::newRow("unknown option") << QStringList{"--mdoe", "2"} << 1 << "Unknown option 'mdoe'";
     QTest::newRow("file without --replay") << QStringList{"capture.log"} << 1 << "--replay capture.log";
+    QTest::newRow("headless reads standard input") << QStringList{"--headless"} << 0 << "total lines: 0 (";
 }
 
 void ConsoleTest::commandLineWithoutDisplay()
@@ -393,6 +394,7 @@ void ConsoleTest::commandLineWithoutDisplay()
     msgview.setProcessEnvironment(environment);
     msgview.setProcessChannelMode(QProcess::MergedChannels);
     msgview.start(MSGVIEW_BINARY, arguments);
+    msgview.closeWriteChannel();
     QVERIFY(msgview.waitForFinished(10000));
     QCOMPARE(msgview.exitStatus(), QProcess::NormalExit);
     QCOMPARE(msgview.exitCode(), exitCode);

@@ -51,11 +51,8 @@ private slots:
     void listsTheKindsSeenInTableOrder();
     void keepsTheLatestRecordOfEachKind();
     void countsCompleteMessagesOfTheOutputKind();
-    void framesAnyChunking_data();
-    void framesAnyChunking();
     void refusesBrokenSentences_data();
     void refusesBrokenSentences();
-    void garbageNeverHoldsBackTheNextSentence();
     void assemblesSatellitesInViewPerSystemCycle();
     void keepsSatellitesUsedPerSystem();
 };
@@ -100,30 +97,6 @@ void BinaryDecoderTest::countsCompleteMessagesOfTheOutputKind()
     QCOMPARE(d.latest("GGA").section(',', 1, 1), QString("081203.00"));
 }
 
-void BinaryDecoderTest::framesAnyChunking_data()
-{
-    QTest::addColumn<int>("chunk");
-    QTest::newRow("byte by byte") << 1;
-    QTest::newRow("7 bytes") << 7;
-    QTest::newRow("84 bytes") << 84;
-    QTest::newRow("whole") << 100000;
-}
-
-void BinaryDecoderTest::framesAnyChunking()
-{
-    QFETCH(int, chunk);
-    const QByteArray stream = nmeaEpoch(1) + nmeaEpoch(2);
-    Decoder whole;
-    const int expected = whole.put(stream);
-    Decoder d;
-    int available = 0;
-    for (int at = 0; at < stream.size(); at += chunk)
-        available += d.put(stream.mid(at, chunk));
-    QCOMPARE(available, expected);
-    for (const char *kind : {"GGA", "RMC", "GSA", "GSV", "VTG", "ZDA"})
-        QCOMPARE(d.latest(kind), whole.latest(kind));
-}
-
 void BinaryDecoderTest::refusesBrokenSentences_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -148,20 +121,6 @@ void BinaryDecoderTest::refusesBrokenSentences()
     QCOMPARE(d.put(bytes), 0);
     QCOMPARE(d.kinds(), QStringList());
     QCOMPARE(d.latest("GGA"), QString("-"));
-}
-
-void BinaryDecoderTest::garbageNeverHoldsBackTheNextSentence()
-{
-    Decoder d;
-    QByteArray garbage(200000, '\0');
-    for (int i = 0; i < garbage.size(); ++i)
-        garbage[i] = char((i * 7919 + 13) % 251); // '$' (36) included, '\n' too
-    garbage += "$GPGGA,081210.00,3110.4693,N"; // a start that never ends...
-    d.put(garbage);
-    // ... is dropped by the next sentence's '$'.
-    QCOMPARE(d.put(sentence("GPZDA,081211.00,15,03,2024,00,00")), 1);
-    QCOMPARE(d.latest("ZDA"), QString("GP,081211.00,15,03,2024,00,00"));
-    QCOMPARE(d.kinds(), QStringList({"ZDA"}));
 }
 
 void BinaryDecoderTest::assemblesSatellitesInViewPerSystemCycle()

@@ -74,10 +74,7 @@ private slots:
     void treeListsTheKindsOfEachMode();
     void marksReceivedKindsEveryFourSeconds();
     void clickedKindShowsItsDescribedFieldsLive();
-    void systemChangeBlanksValues();
     void satelliteListsFollowTheChosenSystem();
-    void hiddenPageShowsNothing();
-    void moreFieldsThanRowsFillOnlyTheRows();
     void descriptionFiles_data();
     void descriptionFiles();
     void missingDescriptionLeavesTheTable();
@@ -173,20 +170,6 @@ void BinaryPageTest::clickedKindShowsItsDescribedFieldsLive()
     QCOMPARE(cell(h, 4, 1), QString("2024"));
 }
 
-void BinaryPageTest::systemChangeBlanksValues()
-{
-    CurrentDirectory directory(QStringLiteral(MESSAGEVIEW_SOURCE_DIR));
-    ModuleHarness h(4);
-    h.show("RMC");
-    h.feed(nmeaEpoch(1));
-    QCOMPARE(cell(h, 2, 1), QString("A"));
-    chooseSystem(h, "BDS");
-    QCOMPARE(columnTexts(h, 1), repeated(table(h)->rowCount(), QString()));
-    QCOMPARE(cell(h, 2, 0), QString("Status"));
-    h.feed(nmeaEpoch(2));
-    QCOMPARE(cell(h, 2, 1), QString("A"));
-}
-
 void BinaryPageTest::satelliteListsFollowTheChosenSystem()
 {
     CurrentDirectory directory(QStringLiteral(MESSAGEVIEW_SOURCE_DIR));
@@ -213,34 +196,6 @@ void BinaryPageTest::satelliteListsFollowTheChosenSystem()
     h.feed(nmeaEpoch(3));
     QCOMPARE(columnTexts(h, 0), QStringList({"GPS", "GLO"}));
     QCOMPARE(cell(h, 1, 6), QString("65 71 72"));
-}
-
-void BinaryPageTest::hiddenPageShowsNothing()
-{
-    CurrentDirectory directory(QStringLiteral(MESSAGEVIEW_SOURCE_DIR));
-    ModuleHarness h(4);
-    h.show("GGA");
-    QWidget other;
-    h.stack().addWidget(&other);
-    h.stack().setCurrentWidget(&other);
-    h.feed(nmeaEpoch(1));
-    QCOMPARE(cell(h, 1, 1), QString());
-    h.show("GGA");
-    h.feed(nmeaEpoch(2));
-    QCOMPARE(cell(h, 1, 1), QString("081202.00"));
-    h.stack().removeWidget(&other);
-}
-
-void BinaryPageTest::moreFieldsThanRowsFillOnlyTheRows()
-{
-    QTemporaryDir dir;
-    writeDescription(dir, "GGA_EN.txt", "P\tV\tU\tD\nTalker\t\t\nTime\ts\t\n");
-    CurrentDirectory directory(dir.path());
-    ModuleHarness h(4);
-    h.show("GGA");
-    h.feed(nmeaEpoch(1));
-    QCOMPARE(table(h)->rowCount(), 2);
-    QCOMPARE(columnTexts(h, 1), QStringList({"GP", "081201.00"}));
 }
 
 void BinaryPageTest::descriptionFiles_data()

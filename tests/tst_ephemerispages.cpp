@@ -37,7 +37,6 @@ private slots:
     void burstBeyondTheCapIsTakenButNotShown();
     void wrongFieldCountIsRefusedYetStartsABurst_data();
     void wrongFieldCountIsRefusedYetStartsABurst();
-    void hiddenPageStillWipesAtBurstStart();
 
 private:
     void addPages();
@@ -142,17 +141,6 @@ void EphemerisPagesTest::wrongFieldCountIsRefusedYetStartsABurst()
     h.feed(ephemeris(log, columns, "c"));
     QCOMPARE(filledRows(h, label), 1);
     QCOMPARE(h.cell(label, 0, 0), QString("c_0"));
-}
-
-void EphemerisPagesTest::hiddenPageStillWipesAtBurstStart()
-{
-    ModuleHarness h(1);
-    h.show("Galephem");
-    h.feed(ephemeris("GALEPHEMA", 38, "a") + ephemeris("GALEPHEMA", 38, "b"));
-    h.show("Gloephem");
-    h.feed(log(logBody("SOMELOGA", "1")) + ephemeris("GALEPHEMA", 38, "c"));
-    QCOMPARE(h.taken("Galephem"), quint64(3));
-    QCOMPARE(filledRows(h, "Galephem"), 0);
 }
 
 QTEST_MAIN(EphemerisPagesTest)

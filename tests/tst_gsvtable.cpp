@@ -83,7 +83,6 @@ private slots:
     void acceptedFieldCounts();
     void groupCutOffMidway();
     void emptyFieldsAndPadding();
-    void foreignTalkersNeverTouchOtherSystems();
     void staleSignalsAndSatellitesAreSwept();
     void boundedStores();
 };
@@ -220,23 +219,6 @@ void GsvTableTest::emptyFieldsAndPadding()
     QCOMPARE(rowOf(h, "GPS", "9").azimuth, QString());
     const Row fractional = rowOf(h, "GAL", "3");
     QCOMPARE(fractional.elevation + " " + fractional.azimuth + " " + fractional.cn0, QString("47.5 102.25 42.3"));
-}
-
-void GsvTableTest::foreignTalkersNeverTouchOtherSystems()
-{
-    ModuleHarness h(0);
-    h.show("GSV");
-    feedAll(h, {"GPGSV,1,1,02,05,55,287,45,12,27,118,41", "QZGSV,1,1,01,193,40,150,38"});
-    const QStringList before = satellites(h);
-    QCOMPARE(before, (QStringList{"GPS 5", "GPS 12"}));
-    // A combined-talker report (sentence 1, no signal id) and unknown talkers are
-    // GSV sentences, so they are taken, but their satellites belong to no known
-    // system: nothing is wiped or added.
-    feedAll(h, {"GNGSV,1,1,02,05,60,290,47,70,20,050,33", "GSGSV,1,1,01,05,30,200,40", "GQGSV,1,1,01,194,35,120,30"});
-    QCOMPARE(satellites(h), (QStringList{"GPS 5", "GPS 12", "QZSS 194"}));
-    QCOMPARE(rowOf(h, "GPS", "5").cn0, QString("45"));
-    QCOMPARE(rowOf(h, "QZSS", "194").colour, QColor(189, 255, 127));
-    QCOMPARE(h.module().acceptedLineCounts().at(h.pageLabels().indexOf("GSV")).second, quint64(5));
 }
 
 void GsvTableTest::staleSignalsAndSatellitesAreSwept()

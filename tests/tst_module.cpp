@@ -1,11 +1,9 @@
-#include "loggedmessages.h"
 #include "messageviewmetaobjctx.h"
 #include "moduleharness.h"
 #include "msgbasewidget.h"
 #include "receiverlines.h"
 #include "routetable.h"
 
-#include <QLabel>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -51,7 +49,6 @@ private slots:
     void setTreeForegroundClearsMarks();
     void statusVocabulariesMatchPrefixesInOrder_data();
     void statusVocabulariesMatchPrefixesInOrder();
-    void pageDeletionIsLoggedOnlyWhenAsked();
 };
 
 
@@ -313,23 +310,6 @@ void ModuleTest::statusVocabulariesMatchPrefixesInOrder()
     h.feed(log(logBody("PSRPOSA", status.toLatin1() + "," + type.toLatin1() + QByteArray(",x").repeated(19))));
     QCOMPARE(h.cell("Psrpos", 0, 3), statusText);
     QCOMPARE(h.cell("Psrpos", 1, 3), typeText);
-}
-
-void ModuleTest::pageDeletionIsLoggedOnlyWhenAsked()
-{
-    ModuleHarness h(2);
-    {
-        LoggedMessages log;
-        h.module().addItemToTree(0);
-        QCOMPARE(log.texts(QtDebugMsg), QStringList());
-    }
-    QLoggingCategory::setFilterRules("messageview.pages.debug=true");
-    LoggedMessages log;
-    h.module().addItemToTree(3);
-    QLoggingCategory::setFilterRules(QString());
-    const QStringList lines = log.texts(QtDebugMsg);
-    QCOMPARE(lines.size(), 11);
-    QVERIFY(lines.first().startsWith("clearMesWidgetList"));
 }
 
 QTEST_MAIN(ModuleTest)

@@ -24,8 +24,6 @@ private slots:
     void everyTalkerAndTheHighRateVariants();
     void fieldCountRules_data();
     void fieldCountRules();
-    void realReceiverSentences_data();
-    void realReceiverSentences();
     void corruptAndOversizedLinesAreRefusedQuietly();
 };
 
@@ -107,40 +105,6 @@ void NmeaPagesTest::fieldCountRules()
     QCOMPARE(h.cell(label, rows - 2, 1), QString(lastOptional ? "b%1" : "a%1").arg(rows - 2));
     // The row without a field keeps what it showed.
     QCOMPARE(h.cell(label, rows - 1, 1), QString("a%1").arg(rows - 1));
-}
-
-void NmeaPagesTest::realReceiverSentences_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QByteArray>("body");
-    // NMEA 4.10 RMC with its navigational status, 2.3 without it.
-    QTest::newRow("RMC 4.10") << "RMC" << QByteArray("GNRMC,083559.00,A,4717.11437,N,00833.91522,E,0.004,77.52,091202,,,A,V");
-    QTest::newRow("RMC 2.3") << "RMC" << QByteArray("GPRMC,123519,A,4807.038,N,01131.000,E,022.4,084.4,230394,003.1,W,D");
-    QTest::newRow("GGA station id missing") << "GGA" << QByteArray("GPGGA,172814.0,3723.46587704,N,12202.26957864,W,2,6,1.2,18.893,M,-25.669,M,2.0");
-    QTest::newRow("GLL 2.3") << "GLL" << QByteArray("GPGLL,4717.11364,N,00833.91565,E,092321.00,A,A");
-    QTest::newRow("VTG empty magnetic") << "VTG" << QByteArray("GPVTG,77.52,T,,M,0.004,N,0.008,K,A");
-    QTest::newRow("ZDA") << "ZDA" << QByteArray("GNZDA,082710.00,16,09,2002,00,00");
-    QTest::newRow("GST empty ellipse") << "GST" << QByteArray("GPGST,082356.00,1.8,,,,1.7,1.3,2.2");
-    QTest::newRow("HDT") << "HDT" << QByteArray("GNHDT,271.374,T");
-    QTest::newRow("HDT without T") << "HDT" << QByteArray("GNHDT,271.374");
-    QTest::newRow("HPR GP talker") << "HPR" << QByteArray("GPHPR,060559.00,236.07,-000.05,000.00,4,30,0.00,0000");
-    QTest::newRow("TRA") << "TRA" << QByteArray("GNTRA,080050.00,112.77,-000.14,000.00,4,18,2.00,0004");
-}
-
-// Values are shown exactly as the receiver sent them, empty fields included.
-void NmeaPagesTest::realReceiverSentences()
-{
-    QFETCH(QString, label);
-    QFETCH(QByteArray, body);
-    ModuleHarness h(1);
-    h.show(label);
-    h.feed(sentence(body));
-    QVERIFY(h.isMarked(label));
-    // Row i shows field i + 1; a row whose field is missing keeps its empty text.
-    const QList<QByteArray> fields = body.split(',');
-    const int rows = h.table(label)->rowCount();
-    for (int row = 0; row < rows; ++row)
-        QCOMPARE(h.cell(label, row, 1), QString(fields.value(row + 1)));
 }
 
 

@@ -4,8 +4,6 @@
 #include "msgbasewidget.h"
 #include "trackingstatus.h"
 
-#include <QHeaderView>
-#include <QLabel>
 #include <QTableWidget>
 #include <QtTest>
 

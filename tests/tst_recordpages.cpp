@@ -1,13 +1,9 @@
 #include "moduleharness.h"
 #include "receiverlines.h"
 
-#include "bestnavtable.h"
-#include "clockswitchtable.h"
 #include "headingtable.h"
-#include "headingtable2.h"
 
 #include <QTableWidget>
-#include <QTreeWidgetItem>
 #include <QtTest>
 
 using namespace ReceiverLines;
@@ -59,24 +55,6 @@ QByteArray statusRecord(const QByteArray &name, int fields, const QByteArray &st
     return log(logBody(name, status + "," + type + "," + numberedFields(fields - 2, "v")));
 }
 
-// A page made as the catalogue makes one, outside any module, shown so it parses.
-template <typename Page>
-std::unique_ptr<Page> standalonePage(const QString &introStr, QTreeWidgetItem *treeParent)
-{
-    QObject *object = Page::staticMetaObject.newInstance(Q_ARG(QWidget *, nullptr), Q_ARG(QString, introStr),
-                                                         Q_ARG(QTreeWidgetItem *, treeParent));
-    std::unique_ptr<Page> page(qobject_cast<Page *>(object));
-    if (page)
-        page->show();
-    return page;
-}
-
-QString valueCell(FieldTablePage *page, int row)
-{
-    QTableWidgetItem *item = page->table()->item(row, 1);
-    return item ? item->text() : QString();
-}
-
 } // namespace
 
 class RecordPagesTest : public QObject
@@ -86,7 +64,6 @@ private slots:
     void takesItsOwnLogWithExactFieldCount_data();
     void takesItsOwnLogWithExactFieldCount();
     void headingVariants();
-    void pagesMadeOutsideTheCatalogue();
     void statusDescriptionsAndRetranslation_data();
     void statusDescriptionsAndRetranslation();
     void malformedLinesAreRefusedQuietly();
@@ -150,36 +127,6 @@ void RecordPagesTest::headingVariants()
     QCOMPARE(h.cell("KvnHeading2", 0, 3), QString("No convergence, invalid solution"));
     QCOMPARE(h.cell("KvnHeading2", 1, 3), QString("No solution"));
     QVERIFY(!kvn2->parse(QString::fromUtf8(statusRecord("KVNHEADING2A", 16, "SOL_COMPUTED", "NONE"))));
-}
-
-void RecordPagesTest::pagesMadeOutsideTheCatalogue()
-{
-    QTreeWidgetItem category;
-
-    // The clock-switch page has no catalogue row but is made the same way.
-    auto clock = standalonePage<ClockswitchTable>("ClockSwitch", &category);
-    QVERIFY(clock);
-    QCOMPARE(category.child(0)->text(0), QString("ClockSwitch"));
-    QVERIFY(!clock->parse(QString::fromUtf8(log(logBody("CLOCKSWITCHA", "1")))));
-    QVERIFY(!clock->parse(QString::fromUtf8(log(logBody("ClockSwitchA", "1,2")))));
-    QCOMPARE(valueCell(clock.get(), 0), QString());
-    QVERIFY(clock->parse(QString::fromUtf8(log(logBody("ClockSwitchA", "0")))));
-    QCOMPARE(valueCell(clock.get(), 0), QString("0"));
-
-    // Only the exact label "BestnavH" selects the BESTNAVH header.
-    auto lower = standalonePage<BestnavTable>("bestnavh", &category);
-    QVERIFY(lower);
-    QVERIFY(!lower->parse(QString::fromUtf8(record("BESTNAVHA", 30))));
-    QVERIFY(lower->parse(QString::fromUtf8(record("BESTNAVA", 30))));
-    QVERIFY(!lower->parse(QString::fromUtf8(record("BESTNAVA", 21))));
-    QCOMPARE(valueCell(lower.get(), 29), QString("f29"));
-
-    // A second heading page under any other label keeps "#HEADINGA," over eleven
-    // characters and so matches nothing.
-    auto other = standalonePage<HeadingTable2>("Other", &category);
-    QVERIFY(other);
-    for (const char *name : {"HEADINGA", "HEADING2A", "KVNHEADINGA", "KVNHEADING2A"})
-        QVERIFY2(!other->parse(QString::fromUtf8(record(name, 17))), name);
 }
 
 void RecordPagesTest::statusDescriptionsAndRetranslation_data()

@@ -1,7 +1,6 @@
-// The route table against the behaviour it stands for: the pages each mode offers a
-// line to, in order, and which page takes the lines at the edges of the header
-// tests. Every edge line also goes through a module with no page on screen, which
-// holds the pages to the table.
+// The route table against the behaviour it stands for: which page takes the lines at
+// the edges of the header tests. Every edge line also goes through a module with no
+// page on screen, which holds the pages to the table.
 #include "moduleharness.h"
 #include "receiverlines.h"
 #include "routetable.h"
@@ -11,19 +10,6 @@
 using namespace ReceiverLines;
 
 namespace {
-
-const QString kNmea = "GGA GGAH VTG ZDA RMC RMCH GSV GLL GST HDT TRA";
-const QString kKorvane = "HPR AGRIC Satvis Satvis2 Bestpos Bestnav BestnavH Bestvel Bestxyz Satxyz2 Heading "
-                         "KvnHeading Heading2 KvnHeading2 Matchpos Matchposh Psrdop Psrdop2 Psrpos Tdifpos Psrvel "
-                         "Tdifvel Gpsutc Bdsutc Galutc Gpsion Bdsion Bd3ion Galion Fwinfo Bestsats Time Rtkdata "
-                         "Inspva Rawimux Antenna Gpsephemeris Gloephem Bdsephem Galephem Range Rangeh Obsvm";
-const QString kModeTwoOnly = "Satvis2 Satxyz2 Heading2 Psrpos Range Rangeh";
-const QString kTiming = "LSINFO TPFINFO PPSINFO BDSTIME GPSTIME GLOTIME GATTIME UTCTIME TIMPOS JAM SVNUM";
-
-QStringList words(const QString &text)
-{
-    return text.split(' ', Qt::SkipEmptyParts);
-}
 
 QByteArray logNamed(const QByteArray &name)
 {
@@ -47,37 +33,9 @@ class RoutesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void pagesInOfferOrder_data();
-    void pagesInOfferOrder();
     void edgeLinesGoToTheirPage_data();
     void edgeLinesGoToTheirPage();
 };
-
-void RoutesTest::pagesInOfferOrder_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QStringList>("labels");
-    QStringList modeOne = words(kKorvane);
-    for (const QString &label : words(kModeTwoOnly))
-        modeOne.removeOne(label);
-    QTest::newRow("0") << 0 << words(kNmea);
-    QTest::newRow("1") << 1 << words(kNmea) + modeOne;
-    QTest::newRow("2") << 2 << words(kNmea) + words(kKorvane);
-    QTest::newRow("7") << 7 << words(kNmea) + words(kTiming);
-    QTest::newRow("binary") << 4 << QStringList();
-    QTest::newRow("without pages") << 3 << QStringList();
-    QTest::newRow("negative") << -1 << QStringList();
-}
-
-void RoutesTest::pagesInOfferOrder()
-{
-    QFETCH(int, mode);
-    QFETCH(QStringList, labels);
-    QStringList offered;
-    for (const PageRoute *route : offeredRoutes(mode))
-        offered << QLatin1String(route->label);
-    QCOMPARE(offered, labels);
-}
 
 void RoutesTest::edgeLinesGoToTheirPage_data()
 {

@@ -7,7 +7,6 @@
 
 #include <QtTest>
 
-#include <functional>
 
 using namespace rxsim;
 

@@ -1,6 +1,5 @@
 #include "simulator.h"
 
-#include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTcpSocket>

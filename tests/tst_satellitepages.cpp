@@ -3,7 +3,6 @@
 
 #include "msgbasewidget.h"
 
-#include <QLabel>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -52,7 +51,6 @@ class SatellitePagesTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void satvisRowsFollowThreeLeadingFields();
     void bestsatsShowsItsOwnCountField_data();
     void bestsatsShowsItsOwnCountField();
     void satvis2GathersOneTablePerGroup();
@@ -60,25 +58,9 @@ private slots:
     void satvis2StaysInsideItsTable();
     void dopSortsPrnsIntoConstellations_data();
     void dopSortsPrnsIntoConstellations();
-    void dopRefusesShortLists();
     void rtkListsTheOtherSatellites();
     void rtkShortLineLeavesUnreadRows();
 };
-
-void SatellitePagesTest::satvisRowsFollowThreeLeadingFields()
-{
-    ModuleHarness h(1);
-    h.show("Satvis");
-    h.feed(log(logBody("SATVISA", "TRUE,TRUE,3," + groups(3, 7))));
-    QCOMPARE(h.countText("Satvis"), QString("3"));
-    QCOMPARE(h.cell("Satvis", 0, 0), QString("s0c0"));
-    QCOMPARE(h.cell("Satvis", 2, 6), QString("s2c6"));
-    h.feed(log(logBody("SATVISA", "TRUE,TRUE,1," + groups(1, 7, "t"))));
-    QCOMPARE(h.countText("Satvis"), QString("1"));
-    QCOMPARE(h.cell("Satvis", 0, 0), QString("t0c0"));
-    QCOMPARE(h.cell("Satvis", 1, 0), QString());
-    QCOMPARE(h.cell("Satvis", 2, 6), QString());
-}
 
 void SatellitePagesTest::bestsatsShowsItsOwnCountField_data()
 {
@@ -203,22 +185,6 @@ void SatellitePagesTest::dopSortsPrnsIntoConstellations()
     QCOMPARE(tableCell(h, label, "tableWidget_Prn", 0, 0), QString("7"));
     QCOMPARE(tableCell(h, label, "tableWidget_Prn", 1, 0), QString());
     QCOMPARE(tableCell(h, label, "tableWidget_Prn", 0, 5), QString());
-}
-
-void SatellitePagesTest::dopRefusesShortLists()
-{
-    ModuleHarness h(1);
-    h.show("Psrdop");
-    h.feed(psrdop("PSRDOPA", "3"));
-    h.feed(log(logBody("PSRDOPA", "2.5,2.2,1.9,2.0,1.8,6.0")));
-    h.feed(log("PSRDOPA,COM1,0,78.5 without header end,2.5,2.2,1.9,2.0,1.8,6.0,1,5"));
-    QCOMPARE(h.taken("Psrdop"), quint64(1));
-    QCOMPARE(tableCell(h, "Psrdop", "tableWidget", 0, 1), QString("1.5"));
-    QCOMPARE(tableCell(h, "Psrdop", "tableWidget_Prn", 0, 0), QString("3"));
-    // Seven parameters and no PRN at all is a complete line.
-    h.feed(psrdop("PSRDOPA", ""));
-    QCOMPARE(h.taken("Psrdop"), quint64(2));
-    QCOMPARE(tableCell(h, "Psrdop", "tableWidget_Prn", 0, 0), QString());
 }
 
 void SatellitePagesTest::rtkListsTheOtherSatellites()

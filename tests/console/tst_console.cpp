@@ -1,4 +1,3 @@
-#include "loggedmessages.h"
 #include "mainwindow.h"
 #include "messageviewmodules.h"
 
@@ -7,7 +6,6 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTableWidget>
 #include <QTcpServer>
@@ -59,12 +57,9 @@ class ConsoleTest : public QObject
     Q_OBJECT
 private slots:
     void init();
-    void startsAndChangesModeQuietly();
-    void treeClicksSetTitleAndModesRebuild();
     void modeAndLanguageAreRemembered();
     void tcpReceivesReconnectsAndSendsCommands();
     void serialThroughPseudoTerminalSurvivesDeviceLoss();
-    void simulatedReceiverOverTcp();
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
@@ -77,33 +72,6 @@ private slots:
 void ConsoleTest::init()
 {
     QSettings().clear();
-}
-
-void ConsoleTest::startsAndChangesModeQuietly()
-{
-    LoggedMessages log;
-    MainWindow window("EN", 2);
-    window.show();
-    window.setMode(1);
-    QStringList warnings = log.texts(QtWarningMsg);
-    // The offscreen platform says so for every shown window; a display does not.
-    warnings.removeAll("This plugin does not support propagateSizeHints()");
-    QCOMPARE(warnings, QStringList());
-}
-
-void ConsoleTest::treeClicksSetTitleAndModesRebuild()
-{
-    MainWindow window("EN", 2);
-    window.show();
-    click(window, "Psrpos");
-    QVERIFY(window.windowTitle().endsWith("Psrpos"));
-    QCOMPARE(findItem(window, "Psrpos")->treeWidget(), window.module()->getTreeWidget());
-    const int mode2Pages = window.stack()->count();
-    window.setMode(1);
-    QVERIFY(window.stack()->count() < mode2Pages);
-    QVERIFY(!findItem(window, "Psrpos"));
-    window.setMode(0);
-    QVERIFY(!findItem(window, "Bestpos"));
 }
 
 void ConsoleTest::modeAndLanguageAreRemembered()
@@ -220,45 +188,6 @@ void ConsoleTest::serialThroughPseudoTerminalSurvivesDeviceLoss()
     window.disconnectReceiver();
     socatAgain.terminate();
     socatAgain.waitForFinished();
-}
-
-// The simulated receiver in real time, as a user would try the console without
-// hardware: a TCP stream server that goes away and comes back. (rxsim on a
-// pseudo-terminal is its own test; the console's serial link is tested above.)
-void ConsoleTest::simulatedReceiverOverTcp()
-{
-    MainWindow window("EN", 2);
-    window.show();
-    click(window, "Bestpos");
-
-    QProcess server;
-    server.setProcessChannelMode(QProcess::SeparateChannels);
-    server.start(RXSIM_BINARY, {"--mode", "2", "--listen", "0", "--duration", "600"});
-    QVERIFY(server.waitForStarted());
-    server.setReadChannel(QProcess::StandardError);
-    QTRY_VERIFY_WITH_TIMEOUT(server.canReadLine(), 10000);
-    const QString announced = QString::fromUtf8(server.readLine()).trimmed();
-    const QString port = announced.section(':', -1);
-    QVERIFY2(port.toInt() > 0, qPrintable(announced));
-
-    QString error;
-    window.connectTo(ReceiverConnection::fromAddress("tcp:127.0.0.1:" + port, &error));
-    QTRY_VERIFY_WITH_TIMEOUT(window.module()->lineCount() > 20, 15000);
-    QTRY_VERIFY_WITH_TIMEOUT(!valueOnCurrentPage(window, 2).isEmpty(), 5000);
-
-    server.kill();
-    server.waitForFinished();
-    QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Retrying));
-    const quint64 beforeRestart = window.module()->lineCount();
-    QProcess again;
-    again.start(RXSIM_BINARY, {"--mode", "2", "--listen", port, "--duration", "600"});
-    QVERIFY(again.waitForStarted());
-    QVERIFY2(waitForState(window.connection(), ReceiverConnection::State::Open, 20000),
-             qPrintable(window.connection()->stateText()));
-    QTRY_VERIFY_WITH_TIMEOUT(window.module()->lineCount() > beforeRestart + 20, 15000);
-    window.disconnectReceiver();
-    again.kill();
-    again.waitForFinished();
 }
 
 void ConsoleTest::recordingReplaysToTheSamePages()

@@ -67,7 +67,6 @@ void EphemerisPagesTest::otherLinesEndTheBurst_data()
     const QByteArray gloLine = log(logBody("GLOEPHEMA", numberedFields(29)));
     const QByteArray headerInside = "xx#GPSEPHEMERISA,#GLOEPHEMA,#BDSEPHEMA,#GALEPHEMA,\r\n";
     QTest::newRow("GPS, corrupt BESTPOS") << "Gpsephemeris" << QByteArray("GPSEPHEMERISA") << 32 << bestposBadCrc << 1;
-    QTest::newRow("GPS, unknown log") << "Gpsephemeris" << QByteArray("GPSEPHEMERISA") << 32 << unknown << 1;
     QTest::newRow("GPS, GLONASS ephemeris") << "Gpsephemeris" << QByteArray("GPSEPHEMERISA") << 32 << gloLine << 1;
     // The GPS page ends its burst only at a line without its header anywhere.
     QTest::newRow("GPS, header inside") << "Gpsephemeris" << QByteArray("GPSEPHEMERISA") << 32 << headerInside << 3;

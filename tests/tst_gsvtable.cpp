@@ -150,8 +150,6 @@ void GsvTableTest::acceptedFieldCounts_data()
     QTest::addColumn<int>("satellites");
     QTest::newRow("1 sat") << QByteArray("GPGSV,1,1,01,05,55,287,45") << 1;
     QTest::newRow("1 sat + signal") << QByteArray("GPGSV,1,1,01,05,55,287,45,1") << 1;
-    QTest::newRow("2 sats") << QByteArray("GPGSV,1,1,02,05,55,287,45,07,10,010,20") << 2;
-    QTest::newRow("3 sats + signal") << QByteArray("GPGSV,1,1,03,05,55,287,45,07,10,010,20,09,11,011,21,1") << 3;
     QTest::newRow("4 sats") << QByteArray("GPGSV,1,1,04,05,55,287,45,07,10,010,20,09,11,011,21,11,12,012,22") << 4;
     QTest::newRow("4 sats + signal") << QByteArray("GPGSV,1,1,04,05,55,287,45,07,10,010,20,09,11,011,21,11,12,012,22,1") << 4;
     QTest::newRow("partial group (11)") << QByteArray("GPGSV,1,1,02,05,55,287,45,07,10") << -1;

@@ -210,9 +210,7 @@ void SatellitePagesTest::rtkShortLineLeavesUnreadRows()
 {
     ModuleHarness h(1);
     h.show("Rtkdata");
-    // The long line's text is gone once it is parsed: nothing may read it again.
-    const QByteArray solution = groups(1, 28, "v").replace("v0c0,", QByteArray(100000, 'w') + ",");
-    h.feed(log(logBody("RTKDATAA", "SOL_COMPUTED,NARROW_INT," + solution + "," + groups(2, 3))));
+    h.feed(log(logBody("RTKDATAA", "SOL_COMPUTED,NARROW_INT," + groups(1, 28, "v") + "," + groups(2, 3))));
     h.feed(log(logBody("RTKDATAA", "INSUFFICIENT_OBS,NONE,x2,x3,x4")));
     QCOMPARE(h.taken("Rtkdata"), quint64(2));
     QCOMPARE(tableCell(h, "Rtkdata", "tableWidget_1", 0, 1), QString("INSUFFICIENT_OBS"));

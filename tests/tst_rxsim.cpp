@@ -351,7 +351,6 @@ void RxsimTest::ratesAreHonoured_data()
     QTest::addColumn<int>("periodMs");
     QTest::addColumn<QString>("page");
     QTest::addColumn<int>("lines");
-    QTest::newRow("GGA twice a second") << "GGA" << 500 << "GGA" << 40;
     QTest::newRow("GGAH by default") << "GGAH" << -1 << "GGAH" << 100;
     QTest::newRow("RANGE off") << "RANGE" << 0 << "Range" << 0;
     QTest::newRow("PSRDOP every 3 s") << "PSRDOP" << 3000 << "Psrdop" << 7;

@@ -246,7 +246,7 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
 {
     QTemporaryDir dir;
     QProcess msgview;
-    msgview.start(MSGVIEW_BINARY, {"--snapshot", dir.path(), "--mode", "2", "--replay", DEMO_SAMPLE});
+    msgview.start(MSGVIEW_BINARY, {"--snapshot", dir.path(), "--lang", "EN", "--mode", "2", "--replay", DEMO_SAMPLE});
     QVERIFY(msgview.waitForFinished(60000));
     QCOMPARE(msgview.exitCode(), 0);
     QProcess headless;
@@ -266,6 +266,11 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
         QVERIFY2(!image.isNull() && image.width() > 100, qPrintable(png.fileName()));
     }
     QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
+    // The language is not case-sensitive: "en" shows what "EN" shows.
+    QTemporaryDir lowerCase;
+    msgview.start(MSGVIEW_BINARY, {"--snapshot", lowerCase.path(), "--lang", "en", "--mode", "2", "--replay", DEMO_SAMPLE});
+    QVERIFY(msgview.waitForFinished(60000));
+    QCOMPARE(QImage(lowerCase.filePath("Bestpos.png")), QImage(dir.filePath("Bestpos.png")));
 }
 
 // Installed as users install it: the descriptions found from any working directory,

@@ -176,9 +176,9 @@ void ObservationPagesTest::signalNames_data()
         const char *name;
     } listed[] = {
         // One or two signals of each system, those that share a name among them.
-        {0, 0, "GPS_L1 C/A"}, {0, 17, "GPS_L2C"}, {1, 7, "GLO_G3Q"}, {2, 6, "SBAS_L5I"}, {3, 18, "GAL_E5A pilot"},
-        {3, 22, "GAL_E5B pilot"}, {4, 23, "BDS_B1C"}, {4, 28, "BDS_B2a"}, {4, 21, "BDS_B3I"}, {5, 27, "QZSS_L2C"},
-        {6, 14, "NAVIC_L5"}, {6, 31, "NAVIC_L1"},
+        {0, 0, "GPS_L1 C/A"}, {0, 9, "GPS_L2P(Y)"}, {0, 17, "GPS_L2C"}, {1, 7, "GLO_G3Q"}, {2, 6, "SBAS_L5I"},
+        {3, 18, "GAL_E5A pilot"}, {3, 22, "GAL_E5B pilot"}, {4, 23, "BDS_B1C"}, {4, 28, "BDS_B2a"}, {4, 21, "BDS_B3I"},
+        {5, 27, "QZSS_L2C"}, {6, 14, "NAVIC_L5"}, {6, 31, "NAVIC_L1"},
         // Unlisted combinations name nothing.
         {0, 1, ""}, {3, 0, ""}, {4, 31, ""}, {7, 0, ""},
     };

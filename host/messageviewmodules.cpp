@@ -1,5 +1,7 @@
 #include "messageviewmodules.h"
 
+#include "lineframer.h"
+
 #include "annotatedlocker.h"
 #include "basicwidget.h"
 #include "loadfailure.h"
@@ -289,43 +291,8 @@ void MessageViewModules::onUpdateBuffer(QByteArray data)
         return;
     }
 
-    m_lineBuffer.append(data);
-    const char *bytes = m_lineBuffer.constData();
-    const int size = m_lineBuffer.size();
-    int lineStart = 0;
-    int searchFrom = m_scanFrom;
-    while (searchFrom < size) {
-        const char *cr = static_cast<const char *>(memchr(bytes + searchFrom, '\r', size - searchFrom));
-        if (!cr) {
-            searchFrom = size;
-            break;
-        }
-        const int crAt = int(cr - bytes);
-        if (crAt + 1 >= size) {
-            searchFrom = crAt; // a '\r' at the end: look at it again with the next bytes
-            break;
-        }
-        if (bytes[crAt + 1] != '\n') {
-            searchFrom = crAt + 1;
-            continue;
-        }
-        const int lineEnd = crAt + 2;
-        // However the stream was chunked, a line longer than the limit is never offered.
-        if (m_droppingLongLine || crAt - lineStart > maxLineBytes)
-            m_droppingLongLine = false;
-        else
-            offerLine(QString::fromUtf8(bytes + lineStart, lineEnd - lineStart));
-        lineStart = lineEnd;
-        searchFrom = lineEnd;
-    }
-    // Bound the partial line: past the limit it is dropped, and so is the rest of it up
-    // to its line end; a trailing '\r' is kept as it may begin that line end.
-    if (searchFrom - lineStart > maxLineBytes) {
-        m_droppingLongLine = true;
-        lineStart = searchFrom;
-    }
-    m_lineBuffer.remove(0, lineStart);
-    m_scanFrom = searchFrom - lineStart;
+    takeLines(m_lineBuffer, m_scanFrom, m_droppingLongLine, maxLineBytes, data,
+              [this](const char *line, int length) { offerLine(QString::fromUtf8(line, length)); });
 }
 
 void MessageViewModules::offerLine(const QString &line)

@@ -10,7 +10,10 @@
 class LineFields
 {
 public:
-    explicit LineFields(const FieldViews &fields) : m_fields(fields) {}
+    explicit LineFields(const FieldViews &fields)
+        : m_fields(fields)
+    {
+    }
 
     // Fields before the checksum, which splitFields() leaves last.
     int count() const { return m_fields.size() - 1; }

@@ -49,7 +49,7 @@ public:
     explicit LocalFrame(const ReferencePoint &reference)
     {
         Geocentric::WGS84().Forward(reference.lat, reference.lon, isKnown(reference.height) ? reference.height : 0.0,
-                                    m_x0, m_y0, m_z0, m_rotation);
+            m_x0, m_y0, m_z0, m_rotation);
     }
 
     template <typename Samples>
@@ -62,7 +62,7 @@ public:
             const double dx = s.x - m_x0, dy = s.y - m_y0, dz = s.z - m_z0;
             const double up = m[2] * dx + m[5] * dy + m[8] * dz;
             out.push_back({m[0] * dx + m[3] * dy + m[6] * dz, m[1] * dx + m[4] * dy + m[7] * dz,
-                           s.hasHeight ? up : kUnknown, &s});
+                s.hasHeight ? up : kUnknown, &s});
         }
         return out;
     }
@@ -121,8 +121,8 @@ PositionStatistics summarize(const std::vector<EnuPoint> &points, qint64 total)
     return s;
 }
 
-StatisticsSet statisticsOf(const std::vector<EnuPoint> &points, qint64 total,
-                           const PositionSamples::QualityCounts &counts)
+StatisticsSet statisticsOf(
+    const std::vector<EnuPoint> &points, qint64 total, const PositionSamples::QualityCounts &counts)
 {
     StatisticsSet set;
     set.all = summarize(points, total);
@@ -131,7 +131,7 @@ StatisticsSet statisticsOf(const std::vector<EnuPoint> &points, qint64 total,
             continue;
         std::vector<EnuPoint> ofQuality;
         std::copy_if(points.cbegin(), points.cend(), std::back_inserter(ofQuality),
-                     [quality](const EnuPoint &p) { return p.stored->quality == quality; });
+            [quality](const EnuPoint &p) { return p.stored->quality == quality; });
         set.byQuality.insert(quality, summarize(ofQuality, counts.at(size_t(quality))));
     }
     return set;
@@ -186,7 +186,7 @@ void PositionSamples::trimWindow()
     // Receiver time that jumps back leaves older samples at the front; the count
     // limit bounds them.
     while (!m_window.empty()
-           && (m_window.front().timeMs < m_window.back().timeMs - m_windowMs || m_window.size() > size_t(kMaxKept)))
+        && (m_window.front().timeMs < m_window.back().timeMs - m_windowMs || m_window.size() > size_t(kMaxKept)))
         m_window.pop_front();
 }
 

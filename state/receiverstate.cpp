@@ -299,8 +299,8 @@ void ReceiverStateData::prune(qint64 nowMs)
     for (auto it = m_satellites.begin(); it != m_satellites.end();) {
         SatelliteEntry &entry = it->second;
         entry.tracked.erase(std::remove_if(entry.tracked.begin(), entry.tracked.end(),
-                                           [&](const SignalEntry &s) { return !isFresh(s.seenMs, nowMs); }),
-                            entry.tracked.end());
+                                [&](const SignalEntry &s) { return !isFresh(s.seenMs, nowMs); }),
+            entry.tracked.end());
         if (entry.positionSeen && !isFresh(entry.positionSeenMs, nowMs)) {
             entry.positionSeen = false;
             entry.elevation = entry.azimuth = kUnknown;
@@ -311,12 +311,12 @@ void ReceiverStateData::prune(qint64 nowMs)
     for (auto it = m_trails.begin(); it != m_trails.end();) {
         QVector<SkyPoint> &trail = it->second;
         trail.erase(std::remove_if(trail.begin(), trail.end(),
-                                   [&](const SkyPoint &p) { return !reaches(p.timeMs, nowMs, reach); }),
-                    trail.end());
+                        [&](const SkyPoint &p) { return !reaches(p.timeMs, nowMs, reach); }),
+            trail.end());
         it = trail.isEmpty() ? m_trails.erase(it) : std::next(it);
     }
     while (!m_history.empty()
-           && (!reaches(m_history.front().timeMs, nowMs, reach) || qint64(m_history.size()) > reach / 1000))
+        && (!reaches(m_history.front().timeMs, nowMs, reach) || qint64(m_history.size()) > reach / 1000))
         m_history.pop_front();
 }
 
@@ -335,7 +335,8 @@ SatelliteInfo ReceiverStateData::describe(int key, const SatelliteEntry &entry, 
         if (isFresh(signal.seenMs, nowMs))
             fresh.append(signal);
     }
-    std::sort(fresh.begin(), fresh.end(), [](const SignalEntry &a, const SignalEntry &b) { return a.signal < b.signal; });
+    std::sort(
+        fresh.begin(), fresh.end(), [](const SignalEntry &a, const SignalEntry &b) { return a.signal < b.signal; });
     for (const SignalEntry &signal : fresh)
         info.trackedSignals.append({signalName(signal.signal), signal.nmeaSignalId, signal.cn0});
     const UsedSatellites &used = m_used.at(size_t(systemIndex(id.system)));
@@ -367,7 +368,7 @@ ReceiverSnapshot ReceiverStateData::snapshot() const
         trail.system = id.system;
         trail.prn = id.prn;
         std::copy_if(points.cbegin(), points.cend(), std::back_inserter(trail.points),
-                     [&](const SkyPoint &p) { return reaches(p.timeMs, snapshot.timeMs, m_settings.historyMs); });
+            [&](const SkyPoint &p) { return reaches(p.timeMs, snapshot.timeMs, m_settings.historyMs); });
         if (!trail.points.isEmpty())
             snapshot.trails.append(trail);
     }

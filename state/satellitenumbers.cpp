@@ -49,8 +49,8 @@ constexpr NumberRange kRanges[] = {
 SatelliteId findNumber(GnssSystem system, quint8 plans, int number)
 {
     for (const NumberRange &range : kRanges) {
-        if ((range.plans & plans) && (system == GnssSystem::Unknown || range.system == system)
-            && number >= range.first && number <= range.last)
+        if ((range.plans & plans) && (system == GnssSystem::Unknown || range.system == system) && number >= range.first
+            && number <= range.last)
             return {range.system, number - range.offset};
     }
     return {};
@@ -63,11 +63,16 @@ struct Talker
 };
 
 constexpr Talker kTalkers[] = {
-    {"GP", {GnssSystem::GPS, true}},       {"GN", {GnssSystem::Unknown, true}},
-    {"GL", {GnssSystem::GLONASS, false}},  {"GA", {GnssSystem::Galileo, false}},
-    {"GB", {GnssSystem::BDS, false}},      {"BD", {GnssSystem::BDS, false}},
-    {"GQ", {GnssSystem::QZSS, false}},     {"QZ", {GnssSystem::QZSS, false}},
-    {"GI", {GnssSystem::NavIC, false}},    {"IR", {GnssSystem::NavIC, false}},
+    {"GP", {GnssSystem::GPS, true}},
+    {"GN", {GnssSystem::Unknown, true}},
+    {"GL", {GnssSystem::GLONASS, false}},
+    {"GA", {GnssSystem::Galileo, false}},
+    {"GB", {GnssSystem::BDS, false}},
+    {"BD", {GnssSystem::BDS, false}},
+    {"GQ", {GnssSystem::QZSS, false}},
+    {"QZ", {GnssSystem::QZSS, false}},
+    {"GI", {GnssSystem::NavIC, false}},
+    {"IR", {GnssSystem::NavIC, false}},
 };
 
 constexpr int kPrnsPerSystem = 1024;
@@ -100,8 +105,8 @@ std::optional<NmeaSource> talkerSource(QStringView address)
 
 std::optional<NmeaSource> systemIdSource(int systemId)
 {
-    static const GnssSystem kIdSystems[] = {GnssSystem::GPS, GnssSystem::GLONASS, GnssSystem::Galileo,
-                                            GnssSystem::BDS, GnssSystem::QZSS, GnssSystem::NavIC};
+    static const GnssSystem kIdSystems[] = {GnssSystem::GPS, GnssSystem::GLONASS, GnssSystem::Galileo, GnssSystem::BDS,
+        GnssSystem::QZSS, GnssSystem::NavIC};
     if (systemId < 1 || systemId > int(std::size(kIdSystems)))
         return std::nullopt;
     return NmeaSource{kIdSystems[systemId - 1], systemId == 1};
@@ -126,9 +131,15 @@ GnssSystem systemOfWord(QStringView word)
         const char *word;
         GnssSystem system;
     } kWords[] = {
-        {"GPS", GnssSystem::GPS},     {"GLONASS", GnssSystem::GLONASS}, {"GALILEO", GnssSystem::Galileo},
-        {"BDS", GnssSystem::BDS},     {"BEIDOU", GnssSystem::BDS},      {"QZSS", GnssSystem::QZSS},
-        {"SBAS", GnssSystem::SBAS},   {"NAVIC", GnssSystem::NavIC},     {"IRNSS", GnssSystem::NavIC},
+        {"GPS", GnssSystem::GPS},
+        {"GLONASS", GnssSystem::GLONASS},
+        {"GALILEO", GnssSystem::Galileo},
+        {"BDS", GnssSystem::BDS},
+        {"BEIDOU", GnssSystem::BDS},
+        {"QZSS", GnssSystem::QZSS},
+        {"SBAS", GnssSystem::SBAS},
+        {"NAVIC", GnssSystem::NavIC},
+        {"IRNSS", GnssSystem::NavIC},
     };
     for (const auto &entry : kWords) {
         if (word == QLatin1String(entry.word))

@@ -12,9 +12,18 @@ constexpr qint64 kGpsEpochMs = 315964800000LL; // 1980-01-06T00:00:00Z
 constexpr qint64 kWeekMs = 7 * 86400000LL;
 constexpr qint64 kLeapSecondsMs = 18000; // GPS time ahead of UTC since 2017
 
-inline ushort code(char c) { return uchar(c); }
-inline ushort code(QChar c) { return c.unicode(); }
-inline bool isCapital(ushort c) { return c >= 'A' && c <= 'Z'; }
+inline ushort code(char c)
+{
+    return uchar(c);
+}
+inline ushort code(QChar c)
+{
+    return c.unicode();
+}
+inline bool isCapital(ushort c)
+{
+    return c >= 'A' && c <= 'Z';
+}
 
 // RMC's mode letter of each quality. 'D' (differential) stands for DGNSS and SBAS,
 // 'P' (precise) for PPS and PPP: the first row of a letter is what the letter means.
@@ -25,10 +34,17 @@ struct QualityLetter
 };
 
 constexpr QualityLetter kQualityLetters[] = {
-    {FixQuality::NoFix, 'N'},        {FixQuality::Single, 'A'},   {FixQuality::Dgnss, 'D'},
-    {FixQuality::Pps, 'P'},          {FixQuality::RtkFixed, 'R'}, {FixQuality::RtkFloat, 'F'},
-    {FixQuality::DeadReckoning, 'E'}, {FixQuality::Manual, 'M'},  {FixQuality::Simulation, 'S'},
-    {FixQuality::Sbas, 'D'},         {FixQuality::Ppp, 'P'},
+    {FixQuality::NoFix, 'N'},
+    {FixQuality::Single, 'A'},
+    {FixQuality::Dgnss, 'D'},
+    {FixQuality::Pps, 'P'},
+    {FixQuality::RtkFixed, 'R'},
+    {FixQuality::RtkFloat, 'F'},
+    {FixQuality::DeadReckoning, 'E'},
+    {FixQuality::Manual, 'M'},
+    {FixQuality::Simulation, 'S'},
+    {FixQuality::Sbas, 'D'},
+    {FixQuality::Ppp, 'P'},
 };
 
 char letterOf(FixQuality quality)
@@ -115,14 +131,22 @@ bool isComputed(const LineFields &f)
 } // namespace
 
 const ReceiverStateData::LineKind ReceiverStateData::s_lineKinds[] = {
-    {"GGA", false, &ReceiverStateData::readGga},           {"RMC", false, &ReceiverStateData::readRmc},
-    {"GSA", false, &ReceiverStateData::readGsa},           {"GSV", false, &ReceiverStateData::readGsv},
-    {"GST", false, &ReceiverStateData::readGst},           {"VTG", false, &ReceiverStateData::readVtg},
-    {"ZDA", false, &ReceiverStateData::readZda},           {"HDT", false, &ReceiverStateData::readHdt},
-    {"BESTPOSA,", true, &ReceiverStateData::readBestpos},  {"BESTVELA,", true, &ReceiverStateData::readBestvel},
-    {"PSRDOPA,", true, &ReceiverStateData::readPsrdop},    {"SATVIS2A,", true, &ReceiverStateData::readSatvis2},
-    {"RANGEA,", true, &ReceiverStateData::readRange},      {"HEADING2A,", true, &ReceiverStateData::readHeading},
-    {"HEADINGA,", true, &ReceiverStateData::readHeading},  {nullptr, false, nullptr},
+    {"GGA", false, &ReceiverStateData::readGga},
+    {"RMC", false, &ReceiverStateData::readRmc},
+    {"GSA", false, &ReceiverStateData::readGsa},
+    {"GSV", false, &ReceiverStateData::readGsv},
+    {"GST", false, &ReceiverStateData::readGst},
+    {"VTG", false, &ReceiverStateData::readVtg},
+    {"ZDA", false, &ReceiverStateData::readZda},
+    {"HDT", false, &ReceiverStateData::readHdt},
+    {"BESTPOSA,", true, &ReceiverStateData::readBestpos},
+    {"BESTVELA,", true, &ReceiverStateData::readBestvel},
+    {"PSRDOPA,", true, &ReceiverStateData::readPsrdop},
+    {"SATVIS2A,", true, &ReceiverStateData::readSatvis2},
+    {"RANGEA,", true, &ReceiverStateData::readRange},
+    {"HEADING2A,", true, &ReceiverStateData::readHeading},
+    {"HEADINGA,", true, &ReceiverStateData::readHeading},
+    {nullptr, false, nullptr},
 };
 
 // "$ttSSS," sentences by their type, "#NAMEA," logs by their name; everything else
@@ -165,9 +189,10 @@ bool ReceiverStateData::take(const LineKind &kind, const QString &line)
 {
     if (!checkLineChecksum(line))
         return false;
-    QStringView body(line);
+    // Field 0 is the address without its '$', or the log's first field.
+    QStringView body = QStringView(line).mid(1);
     if (kind.log) {
-        const int semicolon = line.indexOf(QLatin1Char(';'));
+        const int semicolon = body.indexOf(QLatin1Char(';'));
         if (semicolon < 0)
             return false;
         splitFields(body.left(semicolon), m_fields);
@@ -362,8 +387,8 @@ void ReceiverStateData::readRange(const LineFields &f)
         const GnssSystem system = trackingStatusSystem(int(status >> 16 & 7u));
         const SatelliteId id = receiverSatellite(system, f.integer(at));
         if (id.isValid())
-            setSignal(satellite(id), trackedSignal(system, int(status >> 21 & 31u), status >> 26 & 1u), -1,
-                      f.number(at + 7));
+            setSignal(
+                satellite(id), trackedSignal(system, int(status >> 21 & 31u), status >> 26 & 1u), -1, f.number(at + 7));
     }
 }
 

@@ -151,8 +151,7 @@ QString signalName(int signal)
 GnssSystem trackingStatusSystem(int systemField)
 {
     static const GnssSystem kFieldSystems[] = {GnssSystem::GPS, GnssSystem::GLONASS, GnssSystem::SBAS,
-                                               GnssSystem::Galileo, GnssSystem::BDS, GnssSystem::QZSS,
-                                               GnssSystem::NavIC};
+        GnssSystem::Galileo, GnssSystem::BDS, GnssSystem::QZSS, GnssSystem::NavIC};
     return systemField >= 0 && systemField < int(std::size(kFieldSystems)) ? kFieldSystems[systemField]
                                                                            : GnssSystem::Unknown;
 }

@@ -58,9 +58,15 @@ QJsonArray satelliteArray(const QVector<SatelliteInfo> &satellites)
 QJsonObject statisticsObject(const PositionStatistics &s)
 {
     return {
-        {"samples", s.samples},         {"meanLat", value(s.meanLat)}, {"meanLon", value(s.meanLon)},
-        {"meanHeight", value(s.meanHeight)}, {"sdEast", value(s.sdEast)}, {"sdNorth", value(s.sdNorth)},
-        {"sdUp", value(s.sdUp)},        {"cep50", value(s.cep50)},     {"cep95", value(s.cep95)},
+        {"samples", s.samples},
+        {"meanLat", value(s.meanLat)},
+        {"meanLon", value(s.meanLon)},
+        {"meanHeight", value(s.meanHeight)},
+        {"sdEast", value(s.sdEast)},
+        {"sdNorth", value(s.sdNorth)},
+        {"sdUp", value(s.sdUp)},
+        {"cep50", value(s.cep50)},
+        {"cep95", value(s.cep95)},
         {"drms2", value(s.drms2)},
     };
 }

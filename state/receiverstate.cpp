@@ -10,7 +10,7 @@
 //                       log read (GPS week and seconds, minus 18 leap seconds)
 //   Position, quality   GGA, RMC, BESTPOS. Heights: GGA, BESTPOS (above sea level;
 //                       the ellipsoidal height adds the geoid separation / undulation)
-//   Satellites used     GGA, BESTPOS (solution satellites)
+//   Count of used       GGA, BESTPOS (solution satellites)
 //   HDOP                GGA, GSA, PSRDOP. PDOP: GSA, PSRDOP. VDOP: GSA, PSRDOP
 //                       (from PDOP² = HDOP² + VDOP²)
 //   Speed, course       RMC, VTG, BESTVEL (computed solutions only)
@@ -53,13 +53,13 @@
 //
 // Used satellites. A report replaces the used set of its system (talker or system id)
 // and of every system whose satellites it lists; consecutive GSA lines are one report,
-// so a system's second GSA adds to its first. PSRDOP replaces every system's set. The
-// used set outlives no satellite: a set older than staleAfterMs is ignored, and a GSA
-// that comes before the satellite's GSV counts as soon as the GSV arrives.
+// so a system's second GSA adds to its first. PSRDOP replaces every system's set. A set
+// not renewed for staleAfterMs is ignored. The sets are kept apart from the satellites,
+// so a GSA that comes before a satellite's GSV counts as soon as the GSV arrives.
 //
 // Staleness. A satellite's position and each of its signals disappear staleAfterMs
 // (10 s) after they were last refreshed by the state's clock, and the satellite with
-// the last of them. Receiver time that jumps back the same way makes them stale.
+// the last of them; so does receiver time jumping back by more than that.
 //
 // Clock. nowMs() is the receiver time of the last line that carried one. Before the
 // first, the time since the state was made; a time of day before the first date

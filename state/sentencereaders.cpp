@@ -173,6 +173,8 @@ const ReceiverStateData::LineKind *ReceiverStateData::kindOf(const Char *text, i
     return nullptr;
 }
 
+// Receiver lines are ASCII; Latin-1 keeps any other byte as it came, so a damaged
+// line fails its checksum on the bytes themselves.
 bool ReceiverStateData::takeLine(const char *bytes, int length)
 {
     const LineKind *kind = kindOf(bytes, length);

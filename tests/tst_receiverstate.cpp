@@ -44,19 +44,19 @@ QString text(double value)
 // "G25 70/260 u L1 C/A:46 L2C:50", satellites joined by " | ".
 QString described(const QVector<SatelliteInfo> &satellites)
 {
-    QStringList parts;
+    QStringList entries;
     for (const SatelliteInfo &s : satellites) {
-        QString part = QStringLiteral("%1%2 %3/%4")
+        QString entry = QStringLiteral("%1%2 %3/%4")
                            .arg(systemLetter(s.system))
                            .arg(s.prn)
                            .arg(text(s.elevation), text(s.azimuth));
         if (s.used)
-            part += QStringLiteral(" u");
+            entry += QStringLiteral(" u");
         for (const SignalInfo &signal : s.trackedSignals)
-            part += QStringLiteral(" %1:%2").arg(signal.name, text(signal.cn0));
-        parts << part;
+            entry += QStringLiteral(" %1:%2").arg(signal.name, text(signal.cn0));
+        entries << entry;
     }
-    return parts.join(QStringLiteral(" | "));
+    return entries.join(QStringLiteral(" | "));
 }
 
 // The described satellite whose description starts with key ("G25").

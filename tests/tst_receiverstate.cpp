@@ -47,9 +47,9 @@ QString described(const QVector<SatelliteInfo> &satellites)
     QStringList entries;
     for (const SatelliteInfo &s : satellites) {
         QString entry = QStringLiteral("%1%2 %3/%4")
-                           .arg(systemLetter(s.system))
-                           .arg(s.prn)
-                           .arg(text(s.elevation), text(s.azimuth));
+                            .arg(systemLetter(s.system))
+                            .arg(s.prn)
+                            .arg(text(s.elevation), text(s.azimuth));
         if (s.used)
             entry += QStringLiteral(" u");
         for (const SignalInfo &signal : s.trackedSignals)

@@ -2,26 +2,21 @@
 
 #include <QByteArray>
 #include <cstring>
+#include <utility>
 
 // The receiver's text framing: a line ends at "\r\n" (a lone '\r' or '\n' does not end
 // it). Everything that reads lines from a byte stream cuts them here, so the pages,
 // the receiver state and the tools see the same lines.
-//
-// Appends data to buffer and calls onLine(begin, length) for every complete line, its
-// "\r\n" included, then keeps only the unfinished rest. scanFrom is where the next
-// search for "\r\n" starts, so bytes already scanned are never scanned again however
-// the stream is chunked. A line longer than maxLineBytes (without its "\r\n") is never
-// offered: droppingLongLine is set while the rest of such a line is skipped up to its
-// line end, and the buffer never holds much more than maxLineBytes.
+
+// The line ends in bytes[searchFrom, size): calls onLine(begin, length) for every
+// complete line from lineStart on, its "\r\n" included, and returns where the
+// unfinished rest begins (.first) and where the next search for "\r\n" starts
+// (.second). A line longer than maxLineBytes (without its "\r\n") is never offered:
+// droppingLongLine is set while the rest of such a line is skipped up to its line end.
 template <typename OnLine>
-void takeLines(QByteArray &buffer, int &scanFrom, bool &droppingLongLine, int maxLineBytes, const QByteArray &data,
-               OnLine &&onLine)
+std::pair<int, int> scanLines(const char *bytes, int size, int lineStart, int searchFrom, bool &droppingLongLine,
+                              int maxLineBytes, OnLine &onLine)
 {
-    buffer.append(data);
-    const char *bytes = buffer.constData();
-    const int size = buffer.size();
-    int lineStart = 0;
-    int searchFrom = scanFrom;
     while (searchFrom < size) {
         const char *cr = static_cast<const char *>(memchr(bytes + searchFrom, '\r', size - searchFrom));
         if (!cr) {
@@ -51,8 +46,48 @@ void takeLines(QByteArray &buffer, int &scanFrom, bool &droppingLongLine, int ma
         droppingLongLine = true;
         lineStart = searchFrom;
     }
-    buffer.remove(0, lineStart);
-    scanFrom = searchFrom - lineStart;
+    return {lineStart, searchFrom};
+}
+
+// Cuts the lines of the next chunk of a stream. buffer holds the unfinished line of
+// the chunks before and scanFrom where its search for "\r\n" goes on, so bytes already
+// scanned are never scanned again however the stream is chunked; the buffer never
+// holds much more than maxLineBytes. Only the bytes that finish the buffered line are
+// copied: the lines after it are offered straight from data, and its unfinished rest
+// is kept for the next chunk.
+template <typename OnLine>
+void takeLines(QByteArray &buffer, int &scanFrom, bool &droppingLongLine, int maxLineBytes, const QByteArray &data,
+               OnLine &&onLine)
+{
+    const char *bytes = data.constData();
+    const int size = data.size();
+    int dataFrom = 0;
+    if (!buffer.isEmpty()) {
+        // The buffered line ends at the first "\r\n" of data, or at a '\n' that
+        // follows the '\r' the buffer ends with.
+        int joined = size;
+        if (buffer.endsWith('\r') && size > 0 && bytes[0] == '\n') {
+            joined = 1;
+        } else {
+            for (const char *cr = static_cast<const char *>(memchr(bytes, '\r', size)); cr && cr + 1 < bytes + size;
+                 cr = static_cast<const char *>(memchr(cr + 1, '\r', size_t(bytes + size - cr - 1)))) {
+                if (cr[1] == '\n') {
+                    joined = int(cr - bytes) + 2;
+                    break;
+                }
+            }
+        }
+        buffer.append(bytes, joined);
+        const auto rest = scanLines(buffer.constData(), buffer.size(), 0, scanFrom, droppingLongLine, maxLineBytes, onLine);
+        buffer.remove(0, rest.first);
+        scanFrom = rest.second - rest.first;
+        if (joined == size)
+            return;
+        dataFrom = joined;
+    }
+    const auto rest = scanLines(bytes, size, dataFrom, dataFrom, droppingLongLine, maxLineBytes, onLine);
+    buffer = QByteArray(bytes + rest.first, size - rest.first);
+    scanFrom = rest.second - rest.first;
 }
 
 // takeLines() with its state held together, for readers that own one stream.

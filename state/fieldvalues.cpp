@@ -23,11 +23,50 @@ int digitsValue(QStringView text)
     return value;
 }
 
+// Plain decimals ("-12.5", "4530.123456") as receivers write them, exactly as a full
+// conversion would read them: up to 15 digits are an exact integer, and dividing it by
+// an exact power of ten rounds once. Anything else (exponents, long mantissas) is left
+// to the locale's conversion.
+bool plainDecimal(QStringView text, double *value)
+{
+    static constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const QChar *c = text.data();
+    const QChar *end = c + text.size();
+    const bool minus = c != end && c->unicode() == '-';
+    if (c != end && (minus || c->unicode() == '+'))
+        ++c;
+    qint64 mantissa = 0;
+    int digits = 0, decimals = -1;
+    for (; c != end; ++c) {
+        const ushort u = c->unicode();
+        if (u >= '0' && u <= '9') {
+            mantissa = mantissa * 10 + (u - '0');
+            ++digits;
+            if (decimals >= 0)
+                ++decimals;
+        } else if (u == '.' && decimals < 0) {
+            decimals = 0;
+        } else {
+            return false;
+        }
+        if (digits > 15)
+            return false;
+    }
+    if (digits == 0)
+        return false;
+    const double magnitude = double(mantissa) / kPowersOfTen[qMax(decimals, 0)];
+    *value = minus ? -magnitude : magnitude;
+    return true;
+}
+
 } // namespace
 
 double LineFields::number(int i) const
 {
     const QStringView text = (*this)[i];
+    double plain = 0;
+    if (plainDecimal(text, &plain))
+        return plain;
     bool ok = false;
     const double value = text.isEmpty() ? 0.0 : cLocale().toDouble(text, &ok);
     return ok && std::isfinite(value) ? value : kUnknown;

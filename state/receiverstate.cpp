@@ -28,6 +28,13 @@
 // "single". GGA qualities 0-9 are FixQuality's values; a computed BESTPOS of a
 // position type the state does not know is "single".
 //
+// Pace. RANGE, the longest log, is read when it comes, but at most ten times a second
+// of the computer's time: one fed sooner is held back, unread, in place of the one
+// held before. The next one due is read instead, or the state's next read-out reads
+// the one held (as of that moment: its own time does not turn the clock back). A
+// receiver sends RANGE once a second, so live every one is read; a recording replayed
+// at full speed skips the ones nobody could have seen.
+//
 // Satellite numbers (satellitenumbers.cpp). Each satellite is kept under its system
 // and the system's own number: GPS 1-32, GLONASS slot 1-32, Galileo 1-36, BDS 1-63,
 // QZSS 1-10, SBAS PRN 120-158, NavIC 1-14.
@@ -139,7 +146,7 @@ void ReceiverStateData::setReference(const std::optional<ReferencePoint> &refere
 
 qint64 ReceiverStateData::now() const
 {
-    return m_basis == ClockBasis::SinceStart ? m_sinceStart.elapsed() : m_receiverMs;
+    return m_basis == ClockBasis::SinceStart ? m_startClockMs : m_receiverMs;
 }
 
 void ReceiverStateData::takeTimeOfDay(int timeOfDayMs)
@@ -280,11 +287,15 @@ void ReceiverStateData::recordHistory(qint64 timeMs)
     sample.pdop = m_fix.pdop;
     sample.quality = m_fix.quality;
     sample.correctionAge = m_fix.correctionAge;
+    // Once a second: straight from the store, without naming every signal.
+    const qint64 nowMs = now();
     double sum = 0;
     int withCn0 = 0;
-    for (const SatelliteInfo &satellite : satellites()) {
+    for (const auto &[key, entry] : m_satellites) {
+        double best = kUnknown;
+        if (!isLive(entry, nowMs, &best))
+            continue;
         ++sample.satellitesInView;
-        const double best = satellite.bestCn0();
         if (isKnown(best)) {
             sum += best;
             ++withCn0;
@@ -344,14 +355,27 @@ SatelliteInfo ReceiverStateData::describe(int key, const SatelliteEntry &entry, 
     return info;
 }
 
+bool ReceiverStateData::isLive(const SatelliteEntry &entry, qint64 nowMs, double *bestCn0) const
+{
+    bool live = entry.positionSeen && isFresh(entry.positionSeenMs, nowMs);
+    for (const SignalEntry &signal : entry.tracked) {
+        if (!isFresh(signal.seenMs, nowMs))
+            continue;
+        live = true;
+        if (isKnown(signal.cn0) && (!isKnown(*bestCn0) || signal.cn0 > *bestCn0))
+            *bestCn0 = signal.cn0;
+    }
+    return live;
+}
+
 QVector<SatelliteInfo> ReceiverStateData::satellites() const
 {
     const qint64 nowMs = now();
     QVector<SatelliteInfo> live;
     for (const auto &[key, entry] : m_satellites) {
-        SatelliteInfo info = describe(key, entry, nowMs);
-        if ((entry.positionSeen && isFresh(entry.positionSeenMs, nowMs)) || !info.trackedSignals.isEmpty())
-            live.append(std::move(info));
+        double bestCn0 = kUnknown;
+        if (isLive(entry, nowMs, &bestCn0))
+            live.append(describe(key, entry, nowMs));
     }
     return live;
 }
@@ -402,7 +426,7 @@ void ReceiverState::feed(const QByteArray &bytes)
 {
     const quint64 before = d->linesUsed();
     m_framer.feed(bytes, [this](const char *line, int length) { d->takeLine(line, length); });
-    if (d->linesUsed() != before)
+    if (d->linesUsed() != before || d->holdsBack())
         noteChange();
 }
 
@@ -463,11 +487,13 @@ const FixInfo &ReceiverState::fix() const
 
 QVector<SatelliteInfo> ReceiverState::satellites() const
 {
+    d->settle();
     return d->satellites();
 }
 
 ReceiverSnapshot ReceiverState::snapshot() const
 {
+    d->settle();
     return d->snapshot();
 }
 

@@ -31,6 +31,9 @@ public:
     // and its checksum is valid. Other kinds are refused from their first bytes.
     bool takeLine(const char *bytes, int length);
     bool takeLine(QStringView line);
+    // Reads the observation log held back by the pace limit; call before reading out.
+    void settle();
+    bool holdsBack() const { return !m_heldBack.isEmpty(); }
 
     const StateSettings &settings() const { return m_settings; }
     void setWindowMs(qint64 windowMs);
@@ -51,11 +54,14 @@ private:
         const char *tag; // the sentence type, or the log's name with "A,"
         bool log;
         Reader read;
+        // Long, frequent logs whose reading is paced (receiverstate.cpp, "Pace").
+        bool paced;
     };
     static const LineKind s_lineKinds[];
     template <typename Char>
     static const LineKind *kindOf(const Char *text, int length);
-    bool take(const LineKind &kind, const QString &line);
+    bool take(const LineKind &kind, const QString &line, bool setsClock = true);
+    bool holdBack(const LineKind &kind, const char *bytes, int length);
 
     struct SignalEntry
     {
@@ -99,6 +105,8 @@ private:
     void recordHistory(qint64 timeMs);
     void prune(qint64 nowMs);
     SatelliteInfo describe(int key, const SatelliteEntry &entry, qint64 nowMs) const;
+    // A fresh position or a fresh signal; bestCn0 becomes the best fresh C/N0.
+    bool isLive(const SatelliteEntry &entry, qint64 nowMs, double *bestCn0) const;
 
     // The readers, one per kind of line.
     void readLogTime(const LineFields &header);
@@ -129,8 +137,17 @@ private:
     ClockBasis m_basis = ClockBasis::SinceStart;
     qint64 m_receiverMs = 0;
     QElapsedTimer m_sinceStart;
+    // The time since start as of the line being read or the read-out: one clock
+    // reading per line, however many satellites it stamps.
+    qint64 m_startClockMs = 0;
     qint64 m_second = std::numeric_limits<qint64>::min(); // the second being lived, for the history
 
     FieldViews m_fields;
     quint64 m_linesUsed = 0;
+
+    // The pace of the paced logs: when one was last read (time since start), and the
+    // newest one held back since, with its kind.
+    qint64 m_pacedReadMs = std::numeric_limits<qint64>::min();
+    QByteArray m_heldBack;
+    const LineKind *m_heldBackKind = nullptr;
 };

@@ -79,9 +79,10 @@ constexpr int kPrnsPerSystem = 1024;
 
 } // namespace
 
+// GnssSystem lists the known systems first, in knownSystems() order.
 int systemIndex(GnssSystem system)
 {
-    return knownSystems().indexOf(system);
+    return system < GnssSystem::Unknown ? int(system) : -1;
 }
 
 int satelliteKey(SatelliteId id)
@@ -91,7 +92,8 @@ int satelliteKey(SatelliteId id)
 
 SatelliteId satelliteOfKey(int key)
 {
-    return {knownSystems().value(key / kPrnsPerSystem, GnssSystem::Unknown), key % kPrnsPerSystem};
+    const int index = key / kPrnsPerSystem;
+    return {index >= 0 && index < int(GnssSystem::Unknown) ? GnssSystem(index) : GnssSystem::Unknown, key % kPrnsPerSystem};
 }
 
 std::optional<NmeaSource> talkerSource(QStringView address)

@@ -5,6 +5,8 @@
 #include "linechecksum.h"
 #include "signalnames.h"
 
+#include <cstring>
+
 namespace {
 
 constexpr double kKnotsToMetresPerSecond = 1852.0 / 3600.0;
@@ -123,6 +125,8 @@ double within(double value, double limit)
     return std::abs(value) <= limit ? value : kUnknown;
 }
 
+constexpr qint64 kPacedReadIntervalMs = 100;
+
 bool isComputed(const LineFields &f)
 {
     return f.equals(0, "SOL_COMPUTED");
@@ -131,22 +135,22 @@ bool isComputed(const LineFields &f)
 } // namespace
 
 const ReceiverStateData::LineKind ReceiverStateData::s_lineKinds[] = {
-    {"GGA", false, &ReceiverStateData::readGga},
-    {"RMC", false, &ReceiverStateData::readRmc},
-    {"GSA", false, &ReceiverStateData::readGsa},
-    {"GSV", false, &ReceiverStateData::readGsv},
-    {"GST", false, &ReceiverStateData::readGst},
-    {"VTG", false, &ReceiverStateData::readVtg},
-    {"ZDA", false, &ReceiverStateData::readZda},
-    {"HDT", false, &ReceiverStateData::readHdt},
-    {"BESTPOSA,", true, &ReceiverStateData::readBestpos},
-    {"BESTVELA,", true, &ReceiverStateData::readBestvel},
-    {"PSRDOPA,", true, &ReceiverStateData::readPsrdop},
-    {"SATVIS2A,", true, &ReceiverStateData::readSatvis2},
-    {"RANGEA,", true, &ReceiverStateData::readRange},
-    {"HEADING2A,", true, &ReceiverStateData::readHeading},
-    {"HEADINGA,", true, &ReceiverStateData::readHeading},
-    {nullptr, false, nullptr},
+    {"GGA", false, &ReceiverStateData::readGga, false},
+    {"RMC", false, &ReceiverStateData::readRmc, false},
+    {"GSA", false, &ReceiverStateData::readGsa, false},
+    {"GSV", false, &ReceiverStateData::readGsv, false},
+    {"GST", false, &ReceiverStateData::readGst, false},
+    {"VTG", false, &ReceiverStateData::readVtg, false},
+    {"ZDA", false, &ReceiverStateData::readZda, false},
+    {"HDT", false, &ReceiverStateData::readHdt, false},
+    {"BESTPOSA,", true, &ReceiverStateData::readBestpos, false},
+    {"BESTVELA,", true, &ReceiverStateData::readBestvel, false},
+    {"PSRDOPA,", true, &ReceiverStateData::readPsrdop, false},
+    {"SATVIS2A,", true, &ReceiverStateData::readSatvis2, false},
+    {"RANGEA,", true, &ReceiverStateData::readRange, true},
+    {"HEADING2A,", true, &ReceiverStateData::readHeading, false},
+    {"HEADINGA,", true, &ReceiverStateData::readHeading, false},
+    {nullptr, false, nullptr, false},
 };
 
 // "$ttSSS," sentences by their type, "#NAMEA," logs by their name; everything else
@@ -178,7 +182,36 @@ const ReceiverStateData::LineKind *ReceiverStateData::kindOf(const Char *text, i
 bool ReceiverStateData::takeLine(const char *bytes, int length)
 {
     const LineKind *kind = kindOf(bytes, length);
-    return kind && take(*kind, QString::fromLatin1(bytes, length));
+    return kind && !holdBack(*kind, bytes, length) && take(*kind, QString::fromLatin1(bytes, length));
+}
+
+// A paced log that comes less than kPacedReadIntervalMs after the last one read is
+// kept, unread, in place of the one kept before.
+bool ReceiverStateData::holdBack(const LineKind &kind, const char *bytes, int length)
+{
+    if (!kind.paced)
+        return false;
+    const qint64 wallMs = m_sinceStart.elapsed();
+    if (wallMs - m_pacedReadMs >= kPacedReadIntervalMs) {
+        m_pacedReadMs = wallMs;
+        m_heldBack.clear();
+        return false;
+    }
+    m_heldBack.resize(length);
+    std::memcpy(m_heldBack.data(), bytes, size_t(length));
+    m_heldBackKind = &kind;
+    return true;
+}
+
+void ReceiverStateData::settle()
+{
+    m_startClockMs = m_sinceStart.elapsed();
+    if (m_heldBack.isEmpty())
+        return;
+    m_pacedReadMs = m_sinceStart.elapsed();
+    // Read now, it stands for the present: its own, older time does not turn the clock back.
+    take(*m_heldBackKind, QString::fromLatin1(m_heldBack), false);
+    m_heldBack.clear();
 }
 
 bool ReceiverStateData::takeLine(QStringView line)
@@ -187,7 +220,7 @@ bool ReceiverStateData::takeLine(QStringView line)
     return kind && take(*kind, line.toString());
 }
 
-bool ReceiverStateData::take(const LineKind &kind, const QString &line)
+bool ReceiverStateData::take(const LineKind &kind, const QString &line, bool setsClock)
 {
     if (!checkLineChecksum(line))
         return false;
@@ -198,11 +231,14 @@ bool ReceiverStateData::take(const LineKind &kind, const QString &line)
         if (semicolon < 0)
             return false;
         splitFields(body.left(semicolon), m_fields);
-        readLogTime(LineFields(m_fields));
+        if (setsClock)
+            readLogTime(LineFields(m_fields));
         body = body.mid(semicolon + 1);
     }
-    if (m_basis == ClockBasis::SinceStart)
+    if (m_basis == ClockBasis::SinceStart) {
+        m_startClockMs = m_sinceStart.elapsed();
         closeSecond(now());
+    }
     // Consecutive GSA lines are one report of used satellites; any other line ends it.
     if (kind.read != &ReceiverStateData::readGsa)
         ++m_usedReport;

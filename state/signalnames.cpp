@@ -1,5 +1,6 @@
 #include "signalnames.h"
 
+#include <array>
 #include <iterator>
 
 namespace {
@@ -98,11 +99,20 @@ constexpr int kUnknownTrackedSignal = 2000;
 // way to a signal ends at one number.
 int firstRowNamed(int row)
 {
-    for (int i = 0; i < row; ++i) {
-        if (kSignals[i].system == kSignals[row].system && qstrcmp(kSignals[i].name, kSignals[row].name) == 0)
-            return i;
-    }
-    return row;
+    static const auto firstRows = [] {
+        std::array<int, kRowCount> rows{};
+        for (int r = 0; r < kRowCount; ++r) {
+            rows[size_t(r)] = r;
+            for (int i = 0; i < r; ++i) {
+                if (kSignals[i].system == kSignals[r].system && qstrcmp(kSignals[i].name, kSignals[r].name) == 0) {
+                    rows[size_t(r)] = i;
+                    break;
+                }
+            }
+        }
+        return rows;
+    }();
+    return firstRows[size_t(row)];
 }
 
 int findSignal(GnssSystem system, int SignalRow::*column, int value)

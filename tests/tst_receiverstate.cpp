@@ -224,6 +224,14 @@ void ReceiverStateTest::sentences_data()
                      "33,0,2e7,0.1,1e8,0.01,100,45.0,1000,00050000,"
                      "5,0,2e7,0.1,1e8,0.01,100,38.0,1000,05200000"}
         << "G5 40/120 L1 C/A:40 L2C:38 | R1 25.5/201 G1 C/A:31 G2 C/A:40.5 | J1 60/150 L1 C/A:45";
+    // RANGE fed again within a tenth of a second is held back and read out the newest.
+    const auto range = [](const char *cn0) {
+        return logHeader("RANGE") + "1,5,0,2e7,0.1,1e8,0.01,100," + QByteArray(cn0) + ",1000,00000000";
+    };
+    QTest::newRow("RANGE held back, newest read")
+        << QList<QByteArray>{range("40.5"), range("41.0"), range("42.0")} << "G5 -/- L1 C/A:42";
+    QTest::newRow("RANGE held back, damaged")
+        << QList<QByteArray>{range("40.5"), "!" + range("42.0")} << "G5 -/- L1 C/A:40.5";
     QTest::newRow("empty and absurd values")
         << QList<QByteArray>{"GPGSV,1,1,02,05,,,,06,999,-5,1000"} << "G5 -/- L1 C/A:- | G6 -/- L1 C/A:-";
     QTest::newRow("bad checksum") << QList<QByteArray>{"!" + gsv5} << "";

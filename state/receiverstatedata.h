@@ -148,7 +148,6 @@ private:
     // The pace of the paced logs: when one was last read (time since start), and the
     // newest one held back since, with its kind.
     qint64 m_pacedReadMs = -1000000; // long before the start: the first one is read
-
     QByteArray m_heldBack;
     const LineKind *m_heldBackKind = nullptr;
 };

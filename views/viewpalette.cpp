@@ -1,0 +1,60 @@
+#include "viewpalette.h"
+
+namespace ViewPalette {
+
+const QVector<Cn0Band> &cn0Bands()
+{
+    static const QVector<Cn0Band> bands = {
+        {-std::numeric_limits<double>::infinity(), QStringLiteral("< 25"), QColor(0xd3, 0x2f, 0x2f)},
+        {25, QStringLiteral("25 – 35"), QColor(0xf5, 0x7c, 0x00)},
+        {35, QStringLiteral("35 – 45"), QColor(0xaf, 0xb4, 0x2b)},
+        {45, QStringLiteral("≥ 45"), QColor(0x38, 0x8e, 0x3c)},
+    };
+    return bands;
+}
+
+QColor cn0Colour(double cn0)
+{
+    if (!isKnown(cn0))
+        return unknownColour();
+    QColor colour = cn0Bands().first().colour;
+    for (const Cn0Band &band : cn0Bands()) {
+        if (cn0 >= band.from)
+            colour = band.colour;
+    }
+    return colour;
+}
+
+QColor unknownColour() { return QColor(0x9e, 0x9e, 0x9e); }
+
+QColor fixQualityColour(FixQuality quality)
+{
+    switch (quality) {
+    case FixQuality::NoFix: return QColor(0xe5, 0x39, 0x35);
+    case FixQuality::Single: return QColor(0x1e, 0x88, 0xe5);
+    case FixQuality::Dgnss: return QColor(0x00, 0x89, 0x7b);
+    case FixQuality::Sbas: return QColor(0x5e, 0x35, 0xb1);
+    case FixQuality::Pps: return QColor(0x39, 0x49, 0xab);
+    case FixQuality::RtkFixed: return QColor(0x2e, 0x7d, 0x32);
+    case FixQuality::RtkFloat: return QColor(0xfb, 0x8c, 0x00);
+    case FixQuality::Ppp: return QColor(0x00, 0xac, 0xc1);
+    case FixQuality::DeadReckoning: return QColor(0x6d, 0x4c, 0x41);
+    case FixQuality::Manual: return QColor(0x75, 0x75, 0x75);
+    case FixQuality::Simulation: return QColor(0xad, 0x14, 0x57);
+    }
+    return unknownColour();
+}
+
+QColor warningColour() { return QColor(0xe5, 0x39, 0x35); }
+
+QColor seriesColour(int index)
+{
+    static const QColor colours[] = {
+        QColor(0x1f, 0x77, 0xb4), QColor(0x2c, 0xa0, 0x2c), QColor(0x94, 0x67, 0xbd), QColor(0x8c, 0x56, 0x4b),
+        QColor(0x17, 0xbe, 0xcf), QColor(0xbc, 0xbd, 0x22), QColor(0x7f, 0x7f, 0x7f),
+    };
+    constexpr int count = int(sizeof colours / sizeof colours[0]);
+    return colours[((index % count) + count) % count];
+}
+
+} // namespace ViewPalette

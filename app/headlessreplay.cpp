@@ -1,11 +1,15 @@
 #include "headlessreplay.h"
 
 #include "messageviewmodules.h"
+#include "receiverdocks.h"
+#include "receiverstate.h"
+#include "statereport.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QStackedWidget>
 #include <QWidget>
@@ -26,19 +30,40 @@ QString peakRssText()
     return QStringLiteral("n/a");
 }
 
-} // namespace
-
-int runHeadlessReplay(MessageViewModules &module, QIODevice &input, QTextStream &out)
+// Feeds the whole input to the module and the state; returns the bytes read. A file or
+// pipe read blocks until bytes arrive and returns nothing at the end.
+qint64 feedAll(QIODevice &input, MessageViewModules &module, ReceiverState &state)
 {
     constexpr qint64 kChunk = 64 * 1024;
-    QElapsedTimer timer;
-    timer.start();
     qint64 bytes = 0;
-    // A file or pipe read blocks until bytes arrive and returns nothing at the end.
     for (QByteArray chunk = input.read(kChunk); !chunk.isEmpty(); chunk = input.read(kChunk)) {
         bytes += chunk.size();
         module.onUpdateBuffer(chunk);
+        state.feed(chunk);
     }
+    return bytes;
+}
+
+} // namespace
+
+bool writeStateReport(const ReceiverState &state, const QString &path, QString *error)
+{
+    QFile file;
+    const bool opened = path == QLatin1String("-") ? file.open(stdout, QIODevice::WriteOnly)
+                                                   : (file.setFileName(path), file.open(QIODevice::WriteOnly));
+    const QByteArray json = QJsonDocument(receiverReport(state.snapshot())).toJson(QJsonDocument::Indented);
+    if (!opened || file.write(json) != json.size() || !file.flush()) {
+        *error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    return true;
+}
+
+int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, QIODevice &input, QTextStream &out)
+{
+    QElapsedTimer timer;
+    timer.start();
+    const qint64 bytes = feedAll(input, module, state);
     const double seconds = qMax(timer.nsecsElapsed() / 1e9, 1e-9);
 
     quint64 taken = 0;
@@ -59,8 +84,8 @@ int runHeadlessReplay(MessageViewModules &module, QIODevice &input, QTextStream 
     return 0;
 }
 
-int runSnapshot(MessageViewModules &module, QStackedWidget &stack, QIODevice &input, const QString &directory,
-                QTextStream &out)
+int runSnapshot(MessageViewModules &module, ReceiverState &state, QStackedWidget &stack, QIODevice &input,
+                const QString &directory, QTextStream &out)
 {
     if (!QDir().mkpath(directory)) {
         out << "msgview: cannot create " << directory << '\n';
@@ -77,8 +102,7 @@ int runSnapshot(MessageViewModules &module, QStackedWidget &stack, QIODevice &in
         page->show();
         pages << page;
     }
-    for (QByteArray chunk = input.read(64 * 1024); !chunk.isEmpty(); chunk = input.read(64 * 1024))
-        module.onUpdateBuffer(chunk);
+    feedAll(input, module, state);
     QCoreApplication::processEvents();
 
     const QList<QPair<QString, quint64>> counts = module.acceptedLineCounts();
@@ -100,7 +124,8 @@ int runSnapshot(MessageViewModules &module, QStackedWidget &stack, QIODevice &in
         page->hide();
         stack.addWidget(page);
     }
-    out << written << " pages written to " << directory << '\n';
+    const int views = ReceiverDocks::savePictures(state, directory, out);
+    out << written << " pages and " << views << " views written to " << directory << '\n';
     out.flush();
-    return written == pages.size() ? 0 : 1;
+    return written == pages.size() && views == ReceiverDocks::viewCount() ? 0 : 1;
 }

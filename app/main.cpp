@@ -1,6 +1,7 @@
 #include "headlessreplay.h"
 #include "mainwindow.h"
 #include "messageviewmodules.h"
+#include "receiverstate.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -89,8 +90,13 @@ int main(int argc, char **argv)
     const QCommandLineOption snapshotOption(QStringLiteral("snapshot"),
                                             QStringLiteral("Replay the input offscreen and write a PNG of every page into DIR."),
                                             QStringLiteral("DIR"));
+    const QCommandLineOption reportOption(
+        QStringLiteral("report"),
+        QStringLiteral("Without a window: after the input ends, write the receiver state (fix, satellites, statistics) "
+                       "as JSON to FILE ('-': standard output)."),
+        QStringLiteral("FILE"));
     parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, demoOption,
-                       headlessOption, snapshotOption});
+                       headlessOption, snapshotOption, reportOption});
 
     // Help and version are answered before a widget application looks for a display,
     // and headless runs choose the offscreen platform before it does. Qt's own options
@@ -106,12 +112,15 @@ int main(int argc, char **argv)
     }
     if (understood && !parser.positionalArguments().isEmpty())
         return refuseStrayArguments(parser);
-    const bool headless = parser.isSet(headlessOption) || parser.isSet(snapshotOption);
+    const auto runsHeadless = [&] {
+        return parser.isSet(headlessOption) || parser.isSet(snapshotOption) || parser.isSet(reportOption);
+    };
+    const bool headless = runsHeadless();
     if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (!headless && !canShowWindows(arguments))
         return fail(understood ? QStringLiteral("no display to show the window on (DISPLAY is not set); "
-                                                "--headless and --snapshot need none")
+                                                "--headless, --snapshot and --report need none")
                                : parser.errorText());
     QApplication app(argc, argv);
     parser.process(app);
@@ -134,7 +143,7 @@ int main(int argc, char **argv)
         return fail(QStringLiteral("--mode needs a number"));
     const QString language = languageText.toUpper();
 
-    if (parser.isSet(headlessOption) || parser.isSet(snapshotOption)) {
+    if (runsHeadless()) {
         QFile input;
         const QString path = parser.isSet(replayOption) ? parser.value(replayOption)
             : parser.isSet(demoOption)                  ? QString::fromLatin1(kDemoSession)
@@ -144,12 +153,17 @@ int main(int argc, char **argv)
         QStackedWidget stack;
         MessageViewModules module(&stack, language);
         module.addItemToTree(mode);
-        QTextStream out(stdout);
-        if (parser.isSet(snapshotOption)) {
-            const QString directory = QFileInfo(parser.value(snapshotOption)).absoluteFilePath();
-            return runSnapshot(module, stack, input, directory, out);
-        }
-        return runHeadlessReplay(module, input, out);
+        ReceiverState state;
+        const QString reportPath = parser.value(reportOption);
+        // The report on standard output leaves the summary to standard error.
+        QTextStream out(reportPath == QLatin1String("-") ? stderr : stdout);
+        const int status = parser.isSet(snapshotOption)
+            ? runSnapshot(module, state, stack, input, QFileInfo(parser.value(snapshotOption)).absoluteFilePath(), out)
+            : runHeadlessReplay(module, state, input, out);
+        QString error;
+        if (!reportPath.isEmpty() && !writeStateReport(state, reportPath, &error))
+            return fail(error);
+        return status;
     }
 
     MainWindow window(language, mode);

@@ -1,10 +1,12 @@
 #include "mainwindow.h"
 
 #include "messageviewmodules.h"
+#include "receiverdocks.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDateTime>
 #include <QDialog>
@@ -78,8 +80,13 @@ MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
     m_statusTimer.start(1000);
 
     createModule();
+    m_docks = new ReceiverDocks(m_state, *this);
     buildMenus();
-    resize(1280, 860);
+    resize(1600, 1000);
+    // Where the user left the window and its docks.
+    QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("window/state")).toByteArray());
     updateStatus();
 }
 
@@ -123,8 +130,10 @@ void MainWindow::buildMenus()
             m_connection->setPaused(paused);
     });
     connectionMenu->addAction(tr("Restart replay"), this, [this] {
-        if (m_connection && m_connection->canPause())
+        if (m_connection && m_connection->canPause()) {
+            m_state.reset();
             m_connection->restart();
+        }
     });
     connectionMenu->addAction(tr("&Disconnect"), this, &MainWindow::disconnectReceiver);
     connectionMenu->addSeparator();
@@ -164,6 +173,8 @@ void MainWindow::buildMenus()
 
     QMenu *viewMenu = menuBar()->addMenu(tr("&View"));
     viewMenu->addAction(tr("Clear received marks"), this, [this] { m_module->setTreeForeground(); });
+    viewMenu->addSeparator();
+    m_docks->addToggleActions(viewMenu);
 }
 
 void MainWindow::setMode(int mode)
@@ -192,6 +203,8 @@ void MainWindow::setLanguage(const QString &language)
 void MainWindow::connectTo(std::unique_ptr<ReceiverConnection> connection)
 {
     disconnectReceiver();
+    // Another receiver, or the same session again: nothing of the last one carries over.
+    m_state.reset();
     m_connection = std::move(connection);
     connect(m_connection.get(), &ReceiverConnection::dataReceived, this, &MainWindow::onData);
     connect(m_connection.get(), &ReceiverConnection::stateChanged, this, &MainWindow::onConnectionState);
@@ -214,6 +227,7 @@ void MainWindow::onData(const QByteArray &bytes)
     if (m_recording.isOpen())
         m_recording.write(bytes);
     m_module->onUpdateBuffer(bytes);
+    m_state.feed(bytes);
 }
 
 void MainWindow::onConnectionState(ReceiverConnection::State state, const QString &text)
@@ -251,6 +265,15 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
         }
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    QSettings settings;
+    settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("window/state"), saveState());
+    m_docks->saveSettings();
+    QMainWindow::closeEvent(event);
 }
 
 bool MainWindow::startRecording(const QString &path)

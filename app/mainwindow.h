@@ -1,6 +1,7 @@
 #pragma once
 
 #include "receiverconnection.h"
+#include "receiverstate.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -10,14 +11,16 @@
 #include <memory>
 
 class MessageViewModules;
+class ReceiverDocks;
 class QActionGroup;
 class QLabel;
 class QLineEdit;
 class QStackedWidget;
 class QSplitter;
 
-// The receiver console: the message tree beside the page area, a connection to the
-// receiver, recording, a command line to the receiver and a live status bar.
+// The receiver console: the message tree beside the page area, pictures of the
+// receiver in docks around them, a connection to the receiver, recording, a command
+// line to the receiver and a live status bar.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -28,6 +31,8 @@ public:
     MessageViewModules *module() const { return m_module; }
     QStackedWidget *stack() const { return m_stack; }
     ReceiverConnection *connection() const { return m_connection.get(); }
+    ReceiverState *receiverState() { return &m_state; }
+    ReceiverDocks *receiverDocks() const { return m_docks; }
     int mode() const { return m_mode; }
 
     // Takes over a connection, opens it and shows its state.
@@ -53,6 +58,7 @@ private:
     void chooseTcpPeer();
     void chooseReplayFile();
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
     QString m_language;
     int m_mode;
@@ -60,6 +66,8 @@ private:
     QStackedWidget *m_stack = nullptr;
     MessageViewModules *m_module = nullptr;
     std::unique_ptr<ReceiverConnection> m_connection;
+    ReceiverState m_state;
+    ReceiverDocks *m_docks = nullptr;
     QFile m_recording;
     QActionGroup *m_modeGroup = nullptr;
     QActionGroup *m_languageGroup = nullptr;

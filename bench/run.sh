@@ -14,13 +14,16 @@ cd "$(dirname "$0")/.."
 build=${BUILD_DIR:-build}
 duration=4000      # simulated seconds of mode 2: about 100 MB
 soak_mb=200
+console_seconds=30
 if [ "${1:-}" = "--tiny" ]; then
     duration=20
     soak_mb=5
+    console_seconds=2
 fi
 rxsim="$build/tools/rxsim/rxsim"
 bench="$build/bench/msgview_bench"
-for tool in "$rxsim" "$bench"; do
+console_bench="$build/bench/console_bench"
+for tool in "$rxsim" "$bench" "$console_bench"; do
     [ -x "$tool" ] || { echo "missing $tool: build the project first (./test.sh)" >&2; exit 1; }
 done
 
@@ -63,4 +66,7 @@ out=${BENCH_OUT:-bench/results-latest.txt}
     echo
     echo "the console itself (msgview --headless, mode 2, streaming the mixed corpus from a file):"
     QT_QPA_PLATFORM=offscreen "$build/app/msgview" --headless --mode 2 --replay "$corpus/mixed.log" 2>/dev/null | tail -n 1
+    echo
+    echo "the console's window (offscreen unless DISPLAY is set; under Xvfb: xvfb-run bench/run.sh):"
+    "$console_bench" --replay "$corpus/mixed.log" --rate 1000000 --seconds "$console_seconds" 2>/dev/null
 } | tee "$out"

@@ -2,6 +2,9 @@
 #include "messageviewmodules.h"
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
@@ -63,6 +66,7 @@ private slots:
     void recordingReplaysToTheSamePages();
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
+    void reportsARealReceiverAsJson();
     void binaryModeFindsItsFilesBesideTheProgram();
     void retriesBackOffToHalfAMinute();
     void commandLineWithoutDisplay_data();
@@ -259,18 +263,48 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
         if (!line.isEmpty() && !line.startsWith("page") && !line.startsWith("total") && !line.startsWith("bytes"))
             ++pages;
     }
+    // A picture of every page and of the four receiver views.
     const QFileInfoList pngs = QDir(dir.path()).entryInfoList({"*.png"});
-    QCOMPARE(pngs.size(), pages);
+    QCOMPARE(pngs.size(), pages + 4);
     for (const QFileInfo &png : pngs) {
         QImage image(png.filePath());
         QVERIFY2(!image.isNull() && image.width() > 100, qPrintable(png.fileName()));
     }
     QVERIFY(QFile::exists(dir.filePath("Bestpos.png")));
+    QVERIFY(QFile::exists(dir.filePath("view-position.png")));
     // The language is not case-sensitive: "en" shows what "EN" shows.
     QTemporaryDir lowerCase;
     msgview.start(MSGVIEW_BINARY, {"--snapshot", lowerCase.path(), "--lang", "en", "--mode", "2", "--replay", DEMO_SAMPLE});
     QVERIFY(msgview.waitForFinished(60000));
     QCOMPARE(QImage(lowerCase.filePath("Bestpos.png")), QImage(dir.filePath("Bestpos.png")));
+}
+
+// Two epochs of a real multi-GNSS receiver (RTK float, NMEA 4.11), counted by hand:
+// 10 GPS, 8 GLONASS, 10 Galileo and 10 BDS satellites in view, 4 + 1 + 4 + 5 used.
+void ConsoleTest::reportsARealReceiverAsJson()
+{
+    QProcess msgview;
+    msgview.start(MSGVIEW_BINARY, {"--mode", "0", "--report", "-", "--replay", TEST_DATA_DIR "/skytraq-px1172rh-excerpt.log"});
+    QVERIFY(msgview.waitForFinished(60000));
+    QCOMPARE(msgview.exitCode(), 0);
+    QJsonParseError error;
+    const QJsonObject report = QJsonDocument::fromJson(msgview.readAllStandardOutput(), &error).object();
+    QCOMPARE(error.error, QJsonParseError::NoError);
+    QVERIFY(QString::fromUtf8(msgview.readAllStandardError()).contains("total lines: 46"));
+    const QJsonObject fix = report["fix"].toObject();
+    QCOMPARE(fix["quality"].toString(), QString("RTK float"));
+    QCOMPARE(fix["heading"].toDouble(), 244.65);
+    QCOMPARE(fix["utc"].toString(), QString("2022-03-29T00:38:33.000Z"));
+    QMap<QString, int> inView, used;
+    for (const QJsonValue &satellite : report["satellites"].toArray()) {
+        const QString system = satellite["system"].toString();
+        ++inView[system];
+        used[system] += satellite["used"].toBool();
+        if (system == "GPS" && satellite["prn"].toInt() == 25)
+            QCOMPARE(satellite["signals"].toArray().last()["nmeaSignalId"].toInt(), 6);
+    }
+    QCOMPARE(inView, (QMap<QString, int>{{"BDS", 10}, {"GLONASS", 8}, {"GPS", 10}, {"Galileo", 10}}));
+    QCOMPARE(used, (QMap<QString, int>{{"BDS", 5}, {"GLONASS", 1}, {"GPS", 4}, {"Galileo", 4}}));
 }
 
 // Installed as users install it: the descriptions found from any working directory,
@@ -314,6 +348,9 @@ void ConsoleTest::commandLineWithoutDisplay_data()
     QTest::newRow("unknown option") << QStringList{"--mdoe", "2"} << 1 << "Unknown option 'mdoe'";
     QTest::newRow("file without --replay") << QStringList{"capture.log"} << 1 << "--replay capture.log";
     QTest::newRow("headless reads standard input") << QStringList{"--headless"} << 0 << "total lines: 0 (";
+    QTest::newRow("report of nothing") << QStringList{"--report", "-"} << 0 << "\"quality\": \"no fix\"";
+    QTest::newRow("report nowhere") << QStringList{"--report", "/no/such/dir/state.json"} << 1
+                                    << "cannot write /no/such/dir/state.json";
 }
 
 void ConsoleTest::commandLineWithoutDisplay()

@@ -12,6 +12,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QSettings>
+#include <QTimer>
 
 #include <iterator>
 #include <memory>
@@ -94,16 +95,28 @@ void ReceiverDocks::saveSettings() const
 
 void ReceiverDocks::refreshVisibleViews()
 {
-    QList<ReceiverView *> visible;
+    const bool handingOut = !m_waiting.isEmpty();
+    m_waiting.clear();
     for (ReceiverView *view : qAsConst(m_views)) {
         if (view->isVisible())
-            visible << view;
+            m_waiting << view;
     }
-    if (visible.isEmpty())
+    if (m_waiting.isEmpty())
         return;
-    const ReceiverSnapshot snapshot = m_state.snapshot();
-    for (ReceiverView *view : qAsConst(visible))
-        view->showSnapshot(snapshot);
+    m_snapshot = m_state.snapshot();
+    if (!handingOut)
+        handOutNext();
+}
+
+// One view per turn of the event loop: each paints before the next is given the
+// snapshot, so that no single turn paints all of them and the window stays responsive.
+void ReceiverDocks::handOutNext()
+{
+    if (m_waiting.isEmpty())
+        return;
+    m_waiting.takeFirst()->showSnapshot(m_snapshot);
+    if (!m_waiting.isEmpty())
+        QTimer::singleShot(0, this, &ReceiverDocks::handOutNext);
 }
 
 void ReceiverDocks::refresh(ReceiverView *view)

@@ -45,9 +45,12 @@ private:
         return nullptr;
     }
     void refreshVisibleViews();
+    void handOutNext();
     void refresh(ReceiverView *view);
 
     ReceiverState &m_state;
     QList<QDockWidget *> m_docks;
     QList<ReceiverView *> m_views;
+    ReceiverSnapshot m_snapshot;
+    QList<ReceiverView *> m_waiting; // for m_snapshot, in turn
 };

@@ -1,6 +1,8 @@
 #include "mainwindow.h"
 #include "messageviewmodules.h"
+#include "signalsview.h"
 
+#include <QDockWidget>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -82,14 +84,24 @@ void ConsoleTest::modeAndLanguageAreRemembered()
 {
     {
         MainWindow window("EN", 2);
+        window.show();
         window.setMode(7);
         window.setLanguage("CH");
         QCOMPARE(window.stack()->count(), 22); // the NMEA and the timing pages, built anew
         QVERIFY(window.module()->getTreeWidget()->parent());
+        window.findChild<QDockWidget *>("dock-history")->hide();
+        window.findChild<SignalsView *>()->setThreshold(40);
+        window.close();
     }
     QSettings settings;
     QCOMPARE(settings.value("mode").toInt(), 7);
     QCOMPARE(settings.value("language").toString(), QString("CH"));
+    // And where the user left the docks, and the views' own settings.
+    MainWindow window("EN", 2);
+    window.show();
+    QVERIFY(!window.findChild<QDockWidget *>("dock-history")->isVisible());
+    QVERIFY(window.findChild<QDockWidget *>("dock-sky")->isVisible());
+    QCOMPARE(window.findChild<SignalsView *>()->threshold(), 40.0);
 }
 
 void ConsoleTest::tcpReceivesReconnectsAndSendsCommands()

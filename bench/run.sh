@@ -69,4 +69,5 @@ out=${BENCH_OUT:-bench/results-latest.txt}
     echo
     echo "the console's window (offscreen unless DISPLAY is set; under Xvfb: xvfb-run bench/run.sh):"
     "$console_bench" --replay "$corpus/mixed.log" --rate 1000000 --seconds "$console_seconds" 2>/dev/null
+    "$console_bench" --replay "$corpus/mixed.log" --rate 1000000 --seconds "$console_seconds" --hidden-views 2>/dev/null
 } | tee "$out"

@@ -136,12 +136,18 @@ void HistoryModel::update(const ReceiverSnapshot &snapshot)
 {
     m_series.clear();
     m_runs.clear();
-    m_endMs = snapshot.history.isEmpty() ? snapshot.timeMs : snapshot.history.last().timeMs;
+    m_endMs = isDrawableTime(snapshot.timeMs) ? snapshot.timeMs : 0;
+    for (auto sample = snapshot.history.crbegin(); sample != snapshot.history.crend(); ++sample) {
+        if (isDrawableTime(sample->timeMs)) {
+            m_endMs = sample->timeMs;
+            break;
+        }
+    }
     m_startMs = m_endMs - m_minutes * 60000.0;
     for (const Trace &trace : kTraces)
         m_series << HistorySeries{trace.quantity, HistoryView::tr(trace.name), {}};
     for (const HistorySample &sample : snapshot.history) {
-        if (sample.timeMs < m_startMs || sample.timeMs > m_endMs)
+        if (sample.timeMs < m_startMs || sample.timeMs > m_endMs || !isDrawableTime(sample.timeMs))
             continue;
         for (HistorySeries &series : m_series) {
             const double value = valueOf(series.quantity, sample);

@@ -113,7 +113,7 @@ void PositionModel::update(const ReceiverSnapshot &snapshot)
             ++horizontalCount;
             extent = std::max({extent, std::abs(sample.east), std::abs(sample.north)});
         }
-        if (std::isfinite(sample.up))
+        if (std::isfinite(sample.up) && isDrawableTime(sample.timeMs))
             points.height << QPointF(sample.timeMs, sample.up);
     }
     m_points.clear();

@@ -11,6 +11,12 @@ int systemOrder(GnssSystem system)
     return index < 0 ? knownSystems().size() : index;
 }
 
+bool isDrawableTime(qint64 ms)
+{
+    constexpr qint64 year2200 = 7258118400000;
+    return ms >= 0 && ms < year2200;
+}
+
 ReceiverView::ReceiverView(QWidget *parent) : QWidget(parent)
 {
     m_redrawTimer.setSingleShot(true);

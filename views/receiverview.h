@@ -11,6 +11,10 @@ QString satelliteLabel(GnssSystem system, int prn);
 // Where a system comes when the views group by system: knownSystems() order, the
 // unknown system last.
 int systemOrder(GnssSystem system);
+// Whether a time axis can show this time (ms since the epoch): 1970 up to 2200. The
+// state's own clock starts at 0 when the receiver gives no time; later ones are junk
+// that would make the time axes divide centuries into ticks.
+bool isDrawableTime(qint64 ms);
 
 // What the pictures of the receiver share. The console hands every view each snapshot;
 // a view's model turns it into what is drawn, and the view redraws at most ten times a

@@ -13,7 +13,6 @@
 #include <qwt_plot_curve.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
-#include <qwt_scale_widget.h>
 #include <algorithm>
 
 namespace {
@@ -162,18 +161,13 @@ void HistoryModel::update(const ReceiverSnapshot &snapshot)
 
 HistoryView::HistoryView(QWidget *parent) : ReceiverView(parent)
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    auto *controls = new QHBoxLayout;
-    controls->setContentsMargins(8, 4, 8, 4);
+    QHBoxLayout *controls = controlRow();
     controls->addWidget(new QLabel(tr("Last"), this));
     m_minutesBox = new QComboBox(this);
     for (int minutes : {1, 5, 10, 30, 60})
         m_minutesBox->addItem(tr("%n min", nullptr, minutes), minutes);
     controls->addWidget(m_minutesBox);
     controls->addStretch();
-    layout->addLayout(controls);
 
     m_upperPlot = newReceiverPlot(this);
     m_lowerPlot = newReceiverPlot(this);
@@ -190,7 +184,7 @@ HistoryView::HistoryView(QWidget *parent) : ReceiverView(parent)
         for (QwtPlot::Axis axis : {QwtPlot::yLeft, QwtPlot::yRight})
             plot->axisScaleDraw(axis)->setMinimumExtent(kAxisExtent);
         addTopLegend(plot);
-        layout->addWidget(plot, 1);
+        pictureColumn()->addWidget(plot);
     }
     m_upperBand = new QualityBand;
     m_upperBand->setItemAttribute(QwtPlotItem::Legend, true);

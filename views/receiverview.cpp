@@ -1,5 +1,7 @@
 #include "receiverview.h"
 
+#include <QBoxLayout>
+
 QString satelliteLabel(GnssSystem system, int prn)
 {
     return systemLetter(system) + QStringLiteral("%1").arg(prn, 2, 10, QLatin1Char('0'));
@@ -19,6 +21,14 @@ bool isDrawableTime(qint64 ms)
 
 ReceiverView::ReceiverView(QWidget *parent) : QWidget(parent)
 {
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_controlRow = new QHBoxLayout;
+    m_controlRow->setContentsMargins(8, 4, 8, 4);
+    layout->addLayout(m_controlRow);
+    m_pictureColumn = new QVBoxLayout;
+    layout->addLayout(m_pictureColumn, 1);
     m_redrawTimer.setSingleShot(true);
     connect(&m_redrawTimer, &QTimer::timeout, this, &ReceiverView::redrawNow);
 }

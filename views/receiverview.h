@@ -6,6 +6,9 @@
 #include <QTimer>
 #include <QWidget>
 
+class QHBoxLayout;
+class QVBoxLayout;
+
 // "G12", "R05", "S131": the system letter and the number, with two digits at least.
 QString satelliteLabel(GnssSystem system, int prn);
 // Where a system comes when the views group by system: knownSystems() order, the
@@ -40,7 +43,9 @@ protected:
     virtual void redraw() = 0;
     // A setting of the model changed: the last snapshot is taken again.
     void settingsChanged();
-    const ReceiverSnapshot &lastSnapshot() const { return m_snapshot; }
+    // Every view has its controls in a row on top and its picture below.
+    QHBoxLayout *controlRow() const { return m_controlRow; }
+    QVBoxLayout *pictureColumn() const { return m_pictureColumn; }
 
     void showEvent(QShowEvent *event) override;
 
@@ -48,6 +53,8 @@ private:
     void scheduleRedraw();
     void redrawNow();
 
+    QHBoxLayout *m_controlRow;
+    QVBoxLayout *m_pictureColumn;
     ReceiverSnapshot m_snapshot;
     QTimer m_redrawTimer;
     QElapsedTimer m_sinceRedraw;

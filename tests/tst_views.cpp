@@ -11,7 +11,6 @@
 #include <memory>
 
 Q_DECLARE_METATYPE(GnssSystem)
-Q_DECLARE_METATYPE(SignalBand)
 Q_DECLARE_METATYPE(ReceiverSnapshot)
 
 namespace {
@@ -19,22 +18,7 @@ namespace {
 SatelliteInfo satellite(GnssSystem system, int prn, double elevation, double azimuth, bool used,
                         const QVector<SignalInfo> &trackedSignals = {{QStringLiteral("L1 C/A"), -1, 40}})
 {
-    SatelliteInfo info;
-    info.system = system;
-    info.prn = prn;
-    info.elevation = elevation;
-    info.azimuth = azimuth;
-    info.used = used;
-    info.trackedSignals = trackedSignals;
-    return info;
-}
-
-QStringList markerLabels(const SkyModel &model)
-{
-    QStringList labels;
-    for (const SkyMarker &marker : model.markers())
-        labels << marker.label;
-    return labels;
+    return SatelliteInfo{system, prn, elevation, azimuth, used, trackedSignals};
 }
 
 // Counts only this base's calls, to see what a view does and when.
@@ -55,37 +39,29 @@ struct ViewUnderTest
     std::function<int()> drawnItems; // what its model holds from the snapshot
 };
 
+template <class View, class Count>
+ViewUnderTest viewWith(Count count)
+{
+    auto *view = new View;
+    return {std::unique_ptr<ReceiverView>(view), [view, count] { return int(count(view->model())); }};
+}
+
 ViewUnderTest makeView(int kind)
 {
     switch (kind) {
-    case 0: {
-        auto *view = new SkyView;
-        return {std::unique_ptr<ReceiverView>(view), [view] { return int(view->model().markers().size()); }};
-    }
-    case 1: {
-        auto *view = new SignalsView;
-        return {std::unique_ptr<ReceiverView>(view), [view] { return int(view->model().satellites().size()); }};
-    }
-    case 2: {
-        auto *view = new PositionView;
-        return {std::unique_ptr<ReceiverView>(view), [view] { return int(view->model().points().size()); }};
-    }
-    default: {
-        auto *view = new HistoryView;
-        return {std::unique_ptr<ReceiverView>(view), [view] { return int(view->model().series().first().points.size()); }};
-    }
+    case 0: return viewWith<SkyView>([](const SkyModel &m) { return m.markers().size(); });
+    case 1: return viewWith<SignalsView>([](const SignalsModel &m) { return m.satellites().size(); });
+    case 2: return viewWith<PositionView>([](const PositionModel &m) { return m.points().size(); });
+    default: return viewWith<HistoryView>([](const HistoryModel &m) { return m.series().first().points.size(); });
     }
 }
 
 ReceiverSnapshot oneOfEach()
 {
     ReceiverSnapshot snapshot;
-    snapshot.timeMs = 1700000000000;
     snapshot.satellites << satellite(GnssSystem::GPS, 3, 40, 100, true);
-    snapshot.deviations << EnuSample{snapshot.timeMs, 0.1, 0.2, 0.3, FixQuality::RtkFixed};
-    HistorySample sample;
-    sample.timeMs = snapshot.timeMs;
-    snapshot.history << sample;
+    snapshot.deviations << EnuSample{1000, 0.1, 0.2, 0.3, FixQuality::RtkFixed};
+    snapshot.history << HistorySample{1000};
     return snapshot;
 }
 
@@ -102,8 +78,6 @@ private slots:
     void skySystemFilterAndTrails_data();
     void skySystemFilterAndTrails();
     void signalBarsBySystemNumberAndBand();
-    void signalBandOfName_data();
-    void signalBandOfName();
     void signalThresholdEdge_data();
     void signalThresholdEdge();
     void positionPointsAndCircles_data();
@@ -129,14 +103,12 @@ void ViewsTest::skyMarkerPlacement_data()
     QTest::newRow("zenith in the centre") << GnssSystem::GPS << 12 << 90.0 << 123.0 << "G12" << QPointF(0, 0);
     QTest::newRow("horizon north on the rim") << GnssSystem::GLONASS << 5 << 0.0 << 0.0 << "R05" << QPointF(0, 1);
     QTest::newRow("azimuth 90 is east") << GnssSystem::Galileo << 11 << 0.0 << 90.0 << "E11" << QPointF(1, 0);
-    QTest::newRow("azimuth 270 is west") << GnssSystem::BDS << 23 << 0.0 << 270.0 << "C23" << QPointF(-1, 0);
-    QTest::newRow("30 degrees up, south") << GnssSystem::QZSS << 2 << 30.0 << 180.0 << "J02" << QPointF(0, -2.0 / 3);
+    QTest::newRow("30 degrees up, south") << GnssSystem::BDS << 2 << 30.0 << 180.0 << "C02" << QPointF(0, -2.0 / 3);
     QTest::newRow("azimuth past a turn") << GnssSystem::SBAS << 131 << 0.0 << 450.0 << "S131" << QPointF(1, 0);
     QTest::newRow("below the horizon: rim") << GnssSystem::NavIC << 3 << -4.0 << 0.0 << "I03" << QPointF(0, 1);
     QTest::newRow("elevation unknown") << GnssSystem::GPS << 1 << kUnknown << 10.0 << "" << QPointF();
     QTest::newRow("azimuth unknown") << GnssSystem::GPS << 1 << 10.0 << kUnknown << "" << QPointF();
     QTest::newRow("elevation beyond 90") << GnssSystem::GPS << 1 << 91.0 << 10.0 << "" << QPointF();
-    QTest::newRow("azimuth infinite") << GnssSystem::GPS << 1 << 10.0 << qInf() << "" << QPointF();
 }
 
 void ViewsTest::skyMarkerPlacement()
@@ -158,8 +130,7 @@ void ViewsTest::skyMarkerPlacement()
         const SkyMarker &marker = model.markers().first();
         QCOMPARE(marker.label, label);
         QCOMPARE(marker.filled, used);
-        QVERIFY2(QLineF(marker.position, position).length() < 1e-9,
-                 qPrintable(QStringLiteral("at %1, %2").arg(marker.position.x()).arg(marker.position.y())));
+        QVERIFY(QLineF(marker.position, position).length() < 1e-9);
     }
 }
 
@@ -173,7 +144,6 @@ void ViewsTest::skyMarkerColourIsTheBestCn0_data()
     QTest::newRow("the best signal counts") << QVector<double>{20, 45, 30} << bands.last().colour;
     QTest::newRow("unknown signals are passed over") << QVector<double>{kUnknown, 36} << bands.at(2).colour;
     QTest::newRow("nothing known: grey") << QVector<double>{kUnknown} << ViewPalette::unknownColour();
-    QTest::newRow("no signals: grey") << QVector<double>{} << ViewPalette::unknownColour();
 }
 
 void ViewsTest::skyMarkerColourIsTheBestCn0()
@@ -200,7 +170,6 @@ void ViewsTest::skySystemFilterAndTrails_data()
     QTest::newRow("all shown, no trails") << QVector<GnssSystem>{} << false << all << 0;
     QTest::newRow("trails of drawable points only") << QVector<GnssSystem>{} << true << all << 2;
     QTest::newRow("GLONASS hidden") << QVector<GnssSystem>{GnssSystem::GLONASS} << true << QStringList{"G01", "E03"} << 1;
-    QTest::newRow("absent system hidden") << QVector<GnssSystem>{GnssSystem::BDS} << true << all << 2;
     QTest::newRow("everything hidden") << QVector<GnssSystem>{GnssSystem::GPS, GnssSystem::GLONASS, GnssSystem::Galileo}
                                        << true << QStringList{} << 0;
 }
@@ -223,7 +192,10 @@ void ViewsTest::skySystemFilterAndTrails()
     for (GnssSystem system : hidden)
         model.setSystemShown(system, false);
     model.update(snapshot);
-    QCOMPARE(markerLabels(model), markers);
+    QStringList labels;
+    for (const SkyMarker &marker : model.markers())
+        labels << marker.label;
+    QCOMPARE(labels, markers);
     QCOMPARE(model.trails().size(), trails);
     const QVector<GnssSystem> present{GnssSystem::GPS, GnssSystem::GLONASS, GnssSystem::Galileo};
     QCOMPARE(model.presentSystems(), present);
@@ -233,10 +205,12 @@ void ViewsTest::signalBarsBySystemNumberAndBand()
 {
     ReceiverSnapshot snapshot;
     const SignalInfo l1{QStringLiteral("L1 C/A"), 1, 40}, l2{QStringLiteral("L2C"), 6, 30}, l5{QStringLiteral("L5"), 7, 45};
-    snapshot.satellites << satellite(GnssSystem::Galileo, 11, 10, 10, true, {{QStringLiteral("E5a"), 1, 38}})
+    // By band, not by name: B2a (L5) before B2I, e5A (any case) before E6.
+    snapshot.satellites << satellite(GnssSystem::Galileo, 11, 10, 10, true, {{"E6", 1, 38}, {"e5A pilot", 1, 38}})
                         << satellite(GnssSystem::GPS, 12, 10, 10, false, {l5, l1, {QStringLiteral("L2C"), 6, kUnknown}})
                         << satellite(GnssSystem::GPS, 2, 10, 10, true, {l2, l1})
-                        << satellite(GnssSystem::BDS, 23, 10, 10, true, {{QStringLiteral("B1I"), 1, kUnknown}});
+                        << satellite(GnssSystem::BDS, 23, 10, 10, true, {{"B2I", 1, 30}, {"B2a", 1, 30}})
+                        << satellite(GnssSystem::BDS, 24, 10, 10, true, {{QStringLiteral("B1I"), 1, kUnknown}});
     SignalsModel model;
     model.update(snapshot);
     QStringList columns;
@@ -246,33 +220,12 @@ void ViewsTest::signalBarsBySystemNumberAndBand()
             bars << bar.signal;
         columns << column.label + QLatin1Char(':') + bars.join(QLatin1Char(','));
     }
-    QCOMPARE(columns, (QStringList{"G02:L1 C/A,L2C", "G12:L1 C/A,L5", "E11:E5a"}));
+    QCOMPARE(columns, (QStringList{"G02:L1 C/A,L2C", "G12:L1 C/A,L5", "E11:e5A pilot,E6", "C23:B2a,B2I"}));
     const QVector<SatelliteSignals> &bars = model.satellites();
     QVERIFY(bars.at(0).used && !bars.at(1).used);
     QCOMPARE(model.barWidth(), 0.84 / 2);
     QVERIFY(bars.at(1).x - bars.at(0).x < bars.at(2).x - bars.at(1).x); // a gap between systems
     QVERIFY(bars.at(1).bars.at(0).x < bars.at(1).x && bars.at(1).bars.at(1).x > bars.at(1).x);
-}
-
-void ViewsTest::signalBandOfName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<SignalBand>("band");
-    QTest::newRow("E5a before E5") << "E5a" << SignalBand::L5;
-    QTest::newRow("E5b") << "E5b" << SignalBand::E5b;
-    QTest::newRow("B2a before B2") << "B2a" << SignalBand::L5;
-    QTest::newRow("B2I") << "B2I" << SignalBand::E5b;
-    QTest::newRow("case and spaces") << " e5A pilot" << SignalBand::L5;
-    QTest::newRow("GLONASS G2") << "G2" << SignalBand::L2;
-    QTest::newRow("unheard of") << "S" << SignalBand::Other;
-    QTest::newRow("empty") << "" << SignalBand::Other;
-}
-
-void ViewsTest::signalBandOfName()
-{
-    QFETCH(QString, name);
-    QFETCH(SignalBand, band);
-    QCOMPARE(SignalsModel::bandOf(name), band);
 }
 
 void ViewsTest::signalThresholdEdge_data()
@@ -284,7 +237,6 @@ void ViewsTest::signalThresholdEdge_data()
     QTest::newRow("default, on it") << kUnknown << 35.0 << false;
     QTest::newRow("set, on it") << 40.0 << 40.0 << false;
     QTest::newRow("set, just below") << 40.0 << 39.99 << true;
-    QTest::newRow("zero: nothing below") << 0.0 << 0.0 << false;
 }
 
 void ViewsTest::signalThresholdEdge()
@@ -329,9 +281,7 @@ void ViewsTest::positionPointsAndCircles()
     QCOMPARE(model.pointCount(FixQuality::RtkFixed), 2);
     QCOMPARE(model.pointCount(FixQuality::RtkFloat), 1);
     QCOMPARE(model.pointCount(FixQuality::Single), 1);
-    QCOMPARE(model.pointCount(FixQuality::NoFix), 0);
-    QCOMPARE(model.points().at(1).quality, FixQuality::RtkFixed);
-    QCOMPARE(model.points().at(1).height.size(), 3);
+    QCOMPARE(model.points().at(1).height.size(), 3); // fixed, after single
     QCOMPARE(model.circleCentre(), QPointF(0, 0.5));
     QCOMPARE(isKnown(model.cep50()), isKnown(radius50));
     QCOMPARE(isKnown(model.cep95()), isKnown(radius95));
@@ -365,7 +315,6 @@ void ViewsTest::historyLeavesGapsForUnknownValues()
     HistoryModel model;
     model.update(snapshot);
     const HistorySeries &series = model.series().at(quantity);
-    QCOMPARE(series.quantity, HistoryQuantity(quantity));
     QString seen;
     for (const QPointF &point : series.points)
         seen += std::isfinite(point.y()) ? QLatin1Char('1') : QLatin1Char('0');
@@ -448,7 +397,6 @@ void ViewsTest::badSnapshotsDrawQuietly_data()
     unknowns.satellites << satellite(GnssSystem::Unknown, 0, kUnknown, kUnknown, true, {{QString(), -1, kUnknown}});
     unknowns.deviations << EnuSample{0, kUnknown, kUnknown, kUnknown, FixQuality::NoFix};
     unknowns.history << HistorySample{};
-    unknowns.window.all.meanLat = kUnknown;
     QTest::newRow("unknowns") << unknowns << 0;
     ReceiverSnapshot absurd;
     absurd.timeMs = std::numeric_limits<qint64>::max();

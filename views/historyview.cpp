@@ -13,7 +13,6 @@
 #include <qwt_plot_curve.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
-#include <qwt_scale_widget.h>
 #include <algorithm>
 
 namespace {
@@ -136,12 +135,18 @@ void HistoryModel::update(const ReceiverSnapshot &snapshot)
 {
     m_series.clear();
     m_runs.clear();
-    m_endMs = snapshot.history.isEmpty() ? snapshot.timeMs : snapshot.history.last().timeMs;
+    m_endMs = isDrawableTime(snapshot.timeMs) ? snapshot.timeMs : 0;
+    for (auto sample = snapshot.history.crbegin(); sample != snapshot.history.crend(); ++sample) {
+        if (isDrawableTime(sample->timeMs)) {
+            m_endMs = sample->timeMs;
+            break;
+        }
+    }
     m_startMs = m_endMs - m_minutes * 60000.0;
     for (const Trace &trace : kTraces)
         m_series << HistorySeries{trace.quantity, HistoryView::tr(trace.name), {}};
     for (const HistorySample &sample : snapshot.history) {
-        if (sample.timeMs < m_startMs || sample.timeMs > m_endMs)
+        if (sample.timeMs < m_startMs || sample.timeMs > m_endMs || !isDrawableTime(sample.timeMs))
             continue;
         for (HistorySeries &series : m_series) {
             const double value = valueOf(series.quantity, sample);
@@ -156,18 +161,13 @@ void HistoryModel::update(const ReceiverSnapshot &snapshot)
 
 HistoryView::HistoryView(QWidget *parent) : ReceiverView(parent)
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    auto *controls = new QHBoxLayout;
-    controls->setContentsMargins(8, 4, 8, 4);
+    QHBoxLayout *controls = controlRow();
     controls->addWidget(new QLabel(tr("Last"), this));
     m_minutesBox = new QComboBox(this);
     for (int minutes : {1, 5, 10, 30, 60})
         m_minutesBox->addItem(tr("%n min", nullptr, minutes), minutes);
     controls->addWidget(m_minutesBox);
     controls->addStretch();
-    layout->addLayout(controls);
 
     m_upperPlot = newReceiverPlot(this);
     m_lowerPlot = newReceiverPlot(this);
@@ -184,7 +184,7 @@ HistoryView::HistoryView(QWidget *parent) : ReceiverView(parent)
         for (QwtPlot::Axis axis : {QwtPlot::yLeft, QwtPlot::yRight})
             plot->axisScaleDraw(axis)->setMinimumExtent(kAxisExtent);
         addTopLegend(plot);
-        layout->addWidget(plot, 1);
+        pictureColumn()->addWidget(plot);
     }
     m_upperBand = new QualityBand;
     m_upperBand->setItemAttribute(QwtPlotItem::Legend, true);

@@ -44,7 +44,7 @@ public:
     // One per HistoryQuantity, in its order.
     const QVector<HistorySeries> &series() const { return m_series; }
     const QVector<QualityRun> &qualityRuns() const { return m_runs; }
-    // The shown stretch: the last minutes() up to the newest sample.
+    // The shown stretch: the last minutes() up to the newest sample with a drawable time.
     double startMs() const { return m_startMs; }
     double endMs() const { return m_endMs; }
 

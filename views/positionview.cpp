@@ -113,7 +113,7 @@ void PositionModel::update(const ReceiverSnapshot &snapshot)
             ++horizontalCount;
             extent = std::max({extent, std::abs(sample.east), std::abs(sample.north)});
         }
-        if (std::isfinite(sample.up))
+        if (std::isfinite(sample.up) && isDrawableTime(sample.timeMs))
             points.height << QPointF(sample.timeMs, sample.up);
     }
     m_points.clear();
@@ -143,8 +143,7 @@ void PositionModel::update(const ReceiverSnapshot &snapshot)
 
 PositionView::PositionView(QWidget *parent) : ReceiverView(parent)
 {
-    auto *controls = new QHBoxLayout;
-    controls->setContentsMargins(8, 4, 8, 4);
+    QHBoxLayout *controls = controlRow();
     auto *choose = new QPushButton(tr("Set reference…"), this);
     m_useMean = new QPushButton(tr("Use mean"), this);
     m_useMean->setToolTip(tr("Measure from the mean of the window"));
@@ -202,11 +201,7 @@ PositionView::PositionView(QWidget *parent) : ReceiverView(parent)
     body->setContentsMargins(4, 0, 4, 4);
     body->addLayout(plots, 1);
     body->addWidget(statistics);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addLayout(controls);
-    layout->addLayout(body, 1);
+    pictureColumn()->addLayout(body);
     redraw();
 }
 

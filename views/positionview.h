@@ -26,7 +26,7 @@ public:
     void update(const ReceiverSnapshot &snapshot);
 
     // The qualities present, in allFixQualities() order; a coordinate that is not a
-    // number leaves the point out.
+    // number, or a time no axis can show, leaves the point out.
     const QVector<QualityPoints> &points() const { return m_points; }
     int pointCount(FixQuality quality) const;
     // Around the mean of the points; a radius that is unknown or not positive is NaN

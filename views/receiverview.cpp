@@ -1,5 +1,7 @@
 #include "receiverview.h"
 
+#include <QBoxLayout>
+
 QString satelliteLabel(GnssSystem system, int prn)
 {
     return systemLetter(system) + QStringLiteral("%1").arg(prn, 2, 10, QLatin1Char('0'));
@@ -11,8 +13,22 @@ int systemOrder(GnssSystem system)
     return index < 0 ? knownSystems().size() : index;
 }
 
+bool isDrawableTime(qint64 ms)
+{
+    constexpr qint64 year2200 = 7258118400000;
+    return ms >= 0 && ms < year2200;
+}
+
 ReceiverView::ReceiverView(QWidget *parent) : QWidget(parent)
 {
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_controlRow = new QHBoxLayout;
+    m_controlRow->setContentsMargins(8, 4, 8, 4);
+    layout->addLayout(m_controlRow);
+    m_pictureColumn = new QVBoxLayout;
+    layout->addLayout(m_pictureColumn, 1);
     m_redrawTimer.setSingleShot(true);
     connect(&m_redrawTimer, &QTimer::timeout, this, &ReceiverView::redrawNow);
 }

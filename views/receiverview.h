@@ -6,11 +6,18 @@
 #include <QTimer>
 #include <QWidget>
 
+class QHBoxLayout;
+class QVBoxLayout;
+
 // "G12", "R05", "S131": the system letter and the number, with two digits at least.
 QString satelliteLabel(GnssSystem system, int prn);
 // Where a system comes when the views group by system: knownSystems() order, the
 // unknown system last.
 int systemOrder(GnssSystem system);
+// Whether a time axis can show this time (ms since the epoch): 1970 up to 2200. The
+// state's own clock starts at 0 when the receiver gives no time; later ones are junk
+// that would make the time axes divide centuries into ticks.
+bool isDrawableTime(qint64 ms);
 
 // What the pictures of the receiver share. The console hands every view each snapshot;
 // a view's model turns it into what is drawn, and the view redraws at most ten times a
@@ -36,7 +43,9 @@ protected:
     virtual void redraw() = 0;
     // A setting of the model changed: the last snapshot is taken again.
     void settingsChanged();
-    const ReceiverSnapshot &lastSnapshot() const { return m_snapshot; }
+    // Every view has its controls in a row on top and its picture below.
+    QHBoxLayout *controlRow() const { return m_controlRow; }
+    QVBoxLayout *pictureColumn() const { return m_pictureColumn; }
 
     void showEvent(QShowEvent *event) override;
 
@@ -44,6 +53,8 @@ private:
     void scheduleRedraw();
     void redrawNow();
 
+    QHBoxLayout *m_controlRow;
+    QVBoxLayout *m_pictureColumn;
     ReceiverSnapshot m_snapshot;
     QTimer m_redrawTimer;
     QElapsedTimer m_sinceRedraw;

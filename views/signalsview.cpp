@@ -177,11 +177,7 @@ void SignalsModel::update(const ReceiverSnapshot &snapshot)
 
 SignalsView::SignalsView(QWidget *parent) : ReceiverView(parent)
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    auto *controls = new QHBoxLayout;
-    controls->setContentsMargins(8, 4, 8, 4);
+    QHBoxLayout *controls = controlRow();
     controls->addWidget(new QLabel(tr("Threshold:"), this));
     m_thresholdBox = new QDoubleSpinBox(this);
     m_thresholdBox->setRange(0, kHighestTop);
@@ -190,7 +186,6 @@ SignalsView::SignalsView(QWidget *parent) : ReceiverView(parent)
     m_thresholdBox->setValue(m_model.threshold());
     controls->addWidget(m_thresholdBox);
     controls->addStretch();
-    layout->addLayout(controls);
 
     m_plot = newReceiverPlot(this);
     m_plot->setAutoReplot(false);
@@ -211,7 +206,7 @@ SignalsView::SignalsView(QWidget *parent) : ReceiverView(parent)
     m_thresholdLine->setLegendIconSize(QSize(16, 8));
     m_thresholdLine->attach(m_plot);
     addTopLegend(m_plot);
-    layout->addWidget(m_plot, 1);
+    pictureColumn()->addWidget(m_plot);
 
     connect(m_thresholdBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &SignalsView::setThreshold);
     redraw();

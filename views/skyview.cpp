@@ -218,20 +218,15 @@ void SkyModel::update(const ReceiverSnapshot &snapshot)
 
 SkyView::SkyView(QWidget *parent) : ReceiverView(parent)
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    auto *controls = new QHBoxLayout;
-    controls->setContentsMargins(8, 4, 8, 4);
+    QHBoxLayout *controls = controlRow();
     m_filterRow = new QHBoxLayout;
     m_filterRow->setSpacing(2);
     controls->addLayout(m_filterRow);
     controls->addStretch();
     m_trailsBox = new QCheckBox(tr("Trails"), this);
     controls->addWidget(m_trailsBox);
-    layout->addLayout(controls);
     m_canvas = new SkyCanvas(m_model, this);
-    layout->addWidget(m_canvas, 1);
+    pictureColumn()->addWidget(m_canvas);
     connect(m_trailsBox, &QCheckBox::toggled, this, &SkyView::setTrailsShown);
 }
 

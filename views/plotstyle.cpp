@@ -65,6 +65,8 @@ void useTimeAxis(QwtPlot *plot)
     draw->setDateFormat(QwtDate::Day, QStringLiteral("yyyy-MM-dd"));
     plot->setAxisScaleDraw(QwtPlot::xBottom, draw);
     plot->setAxisScaleEngine(QwtPlot::xBottom, new QwtDateScaleEngine(Qt::UTC));
+    // "hh:mm:ss" labels are wide: more than four crowd a narrow dock.
+    plot->setAxisMaxMajor(QwtPlot::xBottom, 4);
 }
 
 void replotNow(QwtPlot *plot)

@@ -1,6 +1,8 @@
 #include "messageviewmodules.h"
 
+#include "linechecksum.h"
 #include "lineframer.h"
+#include "routetable.h"
 
 #include "annotatedlocker.h"
 #include "basicwidget.h"
@@ -11,6 +13,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QLoggingCategory>
+#include <QMetaMethod>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QThread>
@@ -291,11 +294,30 @@ void MessageViewModules::onUpdateBuffer(QByteArray data)
         return;
     }
 
-    takeLines(m_lineBuffer, m_scanFrom, m_droppingLongLine, maxLineBytes, data,
-              [this](const char *line, int length) { offerLine(QString::fromUtf8(line, length)); });
+    static const QMetaMethod linesSeenSignal = QMetaMethod::fromSignal(&MessageViewModules::linesSeen);
+    if (!isSignalConnected(linesSeenSignal)) {
+        takeLines(m_lineBuffer, m_scanFrom, m_droppingLongLine, maxLineBytes, data,
+                  [this](const char *line, int length) { offerLine(QString::fromUtf8(line, length)); },
+                  [](const char *, int, bool) {});
+        return;
+    }
+    QVector<SeenLine> seen;
+    takeLines(
+        m_lineBuffer, m_scanFrom, m_droppingLongLine, maxLineBytes, data,
+        [&](const char *bytes, int length) {
+            const QString line = QString::fromUtf8(bytes, length);
+            const int page = offerLine(line);
+            seen.append(page >= 0 ? SeenLine{LineTaken, page, QByteArray(bytes, length), false}
+                                  : describeRefusedLine(line, bytes, length));
+        },
+        [&](const char *bytes, int length, bool startsLine) {
+            seen.append({LineTooLong, -1, QByteArray(bytes, length), !startsLine});
+        });
+    if (!seen.isEmpty())
+        emit linesSeen(seen);
 }
 
-void MessageViewModules::offerLine(const QString &line)
+int MessageViewModules::offerLine(const QString &line)
 {
     ++m_lineCount;
     for (int i = 0; i < m_pages.size(); ++i) {
@@ -304,9 +326,35 @@ void MessageViewModules::offerLine(const QString &line)
             if (QTreeWidgetItem *item = page->treeItem())
                 item->setForeground(0, Qt::black);
             ++m_acceptedCounts[i];
-            return;
+            return i;
         }
     }
+    return -1;
+}
+
+// A line no page took: garbage, damaged (and for which page, by its header), or
+// intact and either for no page of the mode or refused by the page of its header.
+MessageViewModules::SeenLine MessageViewModules::describeRefusedLine(const QString &line, const char *bytes,
+                                                                     int length) const
+{
+    SeenLine seen{LineGarbage, -1, QByteArray(bytes, length), false};
+    if (length == 0 || (bytes[0] != '$' && bytes[0] != '#'))
+        return seen;
+    // The pages are made from the mode's routes, in the same order.
+    const QVector<const PageRoute *> &routes = offeredRoutes(m_mode);
+    if (routes.size() == m_pages.size()) {
+        for (int i = 0; i < routes.size() && seen.page < 0; ++i) {
+            if (routes.at(i)->matchesHeader(line))
+                seen.page = i;
+        }
+    }
+    if (!line.contains(QLatin1Char('*')))
+        seen.outcome = LineCutShort;
+    else if (!checkLineChecksum(line))
+        seen.outcome = LineBadChecksum;
+    else
+        seen.outcome = seen.page >= 0 ? LineRefused : LineWithoutPage;
+    return seen;
 }
 
 QList<QPair<QString, quint64>> MessageViewModules::acceptedLineCounts() const

@@ -48,11 +48,40 @@ public:
     // stream is chunked, and the buffer never holds much more than this.
     static constexpr int maxLineBytes = 256 * 1024;
     quint64 lineCount() const { return m_lineCount; }
+
+    // What became of a line cut from the stream in a text mode, or of bytes that were
+    // no line.
+    enum LineOutcome {
+        LineTaken,       // a page took it
+        LineWithoutPage, // its checksum is right, but no page of the mode is for it
+        LineRefused,     // its checksum is right and its header is a page's, which refused it
+        LineBadChecksum, // its checksum is wrong
+        LineCutShort,    // it ends before its checksum
+        LineTooLong,     // longer than maxLineBytes, dropped unread
+        LineGarbage,     // it does not start with '$' or '#'
+    };
+    Q_ENUM(LineOutcome)
+    struct SeenLine
+    {
+        LineOutcome outcome;
+        // The page (an index into acceptedLineCounts()) that took the line, or whose
+        // header it has; -1 for none.
+        int page;
+        // The line with its "\r\n", or the garbage. A line too long comes in the
+        // stretches it is dropped in: the first with continuesLine false, the others true.
+        QByteArray bytes;
+        bool continuesLine;
+    };
+
     // Bytes of an unfinished line held for the next chunk.
     int bufferedBytes() const { return m_lineBuffer.size(); }
 
 signals:
     void messageViewTitleShow(QString nTitle);
+    // Every line cut from the stream in a text mode and every stretch of bytes that was
+    // no line, in stream order, once for each chunk given to onUpdateBuffer(). Nothing
+    // is gathered while no receiver is connected, and the binary modes report nothing.
+    void linesSeen(const QVector<MessageViewModules::SeenLine> &lines);
 
 public slots:
     // Received bytes. Text modes: call it on the GUI thread. Binary modes (4, 5): any
@@ -69,7 +98,9 @@ private:
     void addItemToTree_HPL();
     void addItemToTree_Timeing();
     void addItemToTree_NPL();
-    void offerLine(const QString &line);
+    // The index of the page that took the line, or -1.
+    int offerLine(const QString &line);
+    SeenLine describeRefusedLine(const QString &line, const char *bytes, int length) const;
 
     QMutex m_mutex;
     MsgBaseWidget *m_binaryPage = nullptr;

@@ -13,9 +13,11 @@
 // unfinished rest begins (.first) and where the next search for "\r\n" starts
 // (.second). A line longer than maxLineBytes (without its "\r\n") is never offered:
 // droppingLongLine is set while the rest of such a line is skipped up to its line end.
-template <typename OnLine>
+// Every stretch of bytes dropped so goes to onDropped(begin, length, startsLine),
+// startsLine false for the later stretches of the same line.
+template <typename OnLine, typename OnDropped>
 std::pair<int, int> scanLines(const char *bytes, int size, int lineStart, int searchFrom, bool &droppingLongLine,
-                              int maxLineBytes, OnLine &onLine)
+                              int maxLineBytes, OnLine &onLine, OnDropped &onDropped)
 {
     while (searchFrom < size) {
         const char *cr = static_cast<const char *>(memchr(bytes + searchFrom, '\r', size - searchFrom));
@@ -33,16 +35,19 @@ std::pair<int, int> scanLines(const char *bytes, int size, int lineStart, int se
             continue;
         }
         const int lineEnd = crAt + 2;
-        if (droppingLongLine || crAt - lineStart > maxLineBytes)
+        if (droppingLongLine || crAt - lineStart > maxLineBytes) {
+            onDropped(bytes + lineStart, lineEnd - lineStart, !droppingLongLine);
             droppingLongLine = false;
-        else
+        } else {
             onLine(bytes + lineStart, lineEnd - lineStart);
+        }
         lineStart = lineEnd;
         searchFrom = lineEnd;
     }
     // Past the limit the partial line is dropped, and so is the rest of it up to its
     // line end; a trailing '\r' is kept as it may begin that line end.
     if (searchFrom - lineStart > maxLineBytes) {
+        onDropped(bytes + lineStart, searchFrom - lineStart, !droppingLongLine);
         droppingLongLine = true;
         lineStart = searchFrom;
     }
@@ -55,9 +60,9 @@ std::pair<int, int> scanLines(const char *bytes, int size, int lineStart, int se
 // holds much more than maxLineBytes. Only the bytes that finish the buffered line are
 // copied: the lines after it are offered straight from data, and its unfinished rest
 // is kept for the next chunk.
-template <typename OnLine>
+template <typename OnLine, typename OnDropped>
 void takeLines(QByteArray &buffer, int &scanFrom, bool &droppingLongLine, int maxLineBytes, const QByteArray &data,
-               OnLine &&onLine)
+               OnLine &&onLine, OnDropped &&onDropped)
 {
     const char *bytes = data.constData();
     const int size = data.size();
@@ -78,14 +83,15 @@ void takeLines(QByteArray &buffer, int &scanFrom, bool &droppingLongLine, int ma
             }
         }
         buffer.append(bytes, joined);
-        const auto rest = scanLines(buffer.constData(), buffer.size(), 0, scanFrom, droppingLongLine, maxLineBytes, onLine);
+        const auto rest = scanLines(buffer.constData(), buffer.size(), 0, scanFrom, droppingLongLine, maxLineBytes, onLine,
+                                    onDropped);
         buffer.remove(0, rest.first);
         scanFrom = rest.second - rest.first;
         if (joined == size)
             return;
         dataFrom = joined;
     }
-    const auto rest = scanLines(bytes, size, dataFrom, dataFrom, droppingLongLine, maxLineBytes, onLine);
+    const auto rest = scanLines(bytes, size, dataFrom, dataFrom, droppingLongLine, maxLineBytes, onLine, onDropped);
     buffer = QByteArray(bytes + rest.first, size - rest.first);
     scanFrom = rest.second - rest.first;
 }
@@ -99,7 +105,8 @@ public:
     template <typename OnLine>
     void feed(const QByteArray &data, OnLine &&onLine)
     {
-        takeLines(m_buffer, m_scanFrom, m_droppingLongLine, m_maxLineBytes, data, onLine);
+        takeLines(m_buffer, m_scanFrom, m_droppingLongLine, m_maxLineBytes, data, onLine,
+                  [](const char *, int, bool) {});
     }
     void clear()
     {

@@ -28,6 +28,18 @@ QStringList categoryTexts(QTreeWidget *tree, bool visibleOnly)
     return texts;
 }
 
+using SeenLines = QVector<MessageViewModules::SeenLine>;
+
+// What the module reports for the bytes fed, one chunk at a time.
+SeenLines seenWhileFeeding(ModuleHarness &h, const QList<QByteArray> &chunks)
+{
+    SeenLines seen;
+    QObject::connect(&h.module(), &MessageViewModules::linesSeen, [&seen](const SeenLines &lines) { seen += lines; });
+    for (const QByteArray &chunk : chunks)
+        h.feed(chunk);
+    return seen;
+}
+
 } // namespace
 
 class ModuleTest : public QObject
@@ -49,6 +61,9 @@ private slots:
     void setTreeForegroundClearsMarks();
     void statusVocabulariesMatchPrefixesInOrder_data();
     void statusVocabulariesMatchPrefixesInOrder();
+    void everyLineHasAnOutcome_data();
+    void everyLineHasAnOutcome();
+    void everyByteIsReportedOnceInOrder();
 };
 
 
@@ -314,3 +329,64 @@ void ModuleTest::statusVocabulariesMatchPrefixesInOrder()
 
 QTEST_MAIN(ModuleTest)
 #include "tst_module.moc"
+
+void ModuleTest::everyLineHasAnOutcome_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("outcome");
+    QTest::addColumn<QString>("page");
+    const QByteArray gga = sentence("GPGGA,020000.00,3031.7,N,11421.4,E,1,12,0.8,24.0,M,-13.6,M,,");
+    QByteArray badGga = gga;
+    badGga[badGga.size() - 3] = badGga.at(badGga.size() - 3) == '0' ? '1' : '0';
+    QTest::newRow("taken") << gga << int(MessageViewModules::LineTaken) << "GGA";
+    QTest::newRow("bad checksum, for its page") << badGga << int(MessageViewModules::LineBadChecksum) << "GGA";
+    QTest::newRow("cut short, for its page") << gga.left(40) + "\r\n" << int(MessageViewModules::LineCutShort) << "GGA";
+    QTest::newRow("no page in the mode") << sentence("GNGSA,A,3,05,,,,,,,,,,,,1.2,0.8,0.9,1")
+                                         << int(MessageViewModules::LineWithoutPage) << "";
+    QTest::newRow("refused by its page") << log(logBody("BESTPOSA", "SOL_COMPUTED,SINGLE,1,2"))
+                                         << int(MessageViewModules::LineRefused) << "Bestpos";
+    QTest::newRow("garbage") << QByteArray("\x01\x02ab$GPGGA\r\n") << int(MessageViewModules::LineGarbage) << "";
+    QTest::newRow("empty line") << QByteArray("\r\n") << int(MessageViewModules::LineGarbage) << "";
+}
+
+void ModuleTest::everyLineHasAnOutcome()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(int, outcome);
+    QFETCH(QString, page);
+    ModuleHarness h(2);
+    h.show("Bestpos"); // a hidden page takes every line with its header and checksum
+    const SeenLines seen = seenWhileFeeding(h, {line});
+    QCOMPARE(seen.size(), 1);
+    QCOMPARE(int(seen.first().outcome), outcome);
+    QCOMPARE(seen.first().page >= 0 ? h.module().acceptedLineCounts().at(seen.first().page).first : QString(), page);
+    QCOMPARE(seen.first().bytes, line);
+}
+
+// However the stream is chunked and damaged, the reports hold every byte cut from it
+// once, in order; a line too long comes as its first stretch and the rest of it.
+void ModuleTest::everyByteIsReportedOnceInOrder()
+{
+    ModuleHarness h(2);
+    QByteArray stream;
+    for (int i = 0; i < 50; ++i)
+        stream += bestpos(QByteArray::number(i)) + "junk " + QByteArray::number(i) + "\r\n";
+    stream += QByteArray(MessageViewModules::maxLineBytes + 70000, 'b') + "\r\n" + bestpos("after");
+    QList<QByteArray> chunks;
+    for (int at = 0, size = 1; at < stream.size(); at += size, size = size * 7 % 65521 + 1)
+        chunks << stream.mid(at, size);
+    const SeenLines seen = seenWhileFeeding(h, chunks);
+    QByteArray reported;
+    QList<int> outcomes;
+    for (const MessageViewModules::SeenLine &line : seen) {
+        reported += line.bytes;
+        if (!line.continuesLine)
+            outcomes << line.outcome;
+    }
+    QCOMPARE(reported.size(), stream.size());
+    QVERIFY(reported == stream);
+    QCOMPARE(outcomes.count(MessageViewModules::LineTaken), 51);
+    QCOMPARE(outcomes.count(MessageViewModules::LineGarbage), 50);
+    QCOMPARE(outcomes.count(MessageViewModules::LineTooLong), 1);
+    QCOMPARE(outcomes.size(), 102);
+}

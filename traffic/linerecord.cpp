@@ -32,15 +32,19 @@ QByteArray messageKind(const char *line, int length)
     return QByteArray(begin, int(stop - begin));
 }
 
+int lengthWithoutLineEnd(const QByteArray &bytes)
+{
+    int length = bytes.size();
+    while (length > 0 && (bytes.at(length - 1) == '\n' || bytes.at(length - 1) == '\r'))
+        --length;
+    return length;
+}
+
 QString lineText(const QByteArray &bytes, bool hexDump, int maxBytes)
 {
     const auto isPrintable = [](char c) { return c >= 0x20 && c < 0x7f; };
-    int length = bytes.size();
-    if (!hexDump) {
-        while (length > 0 && (bytes.at(length - 1) == '\n' || bytes.at(length - 1) == '\r'))
-            --length;
-        hexDump = !std::all_of(bytes.cbegin(), bytes.cbegin() + length, isPrintable);
-    }
+    int length = lengthWithoutLineEnd(bytes);
+    hexDump = hexDump || !std::all_of(bytes.cbegin(), bytes.cbegin() + length, isPrintable);
     if (hexDump)
         length = bytes.size();
     const int shown = std::min(length, std::max(maxBytes, 0));

@@ -38,6 +38,8 @@ struct LineRecord
 // with '$' or '#'. At most 32 characters are looked at.
 QByteArray messageKind(const char *line, int length);
 
+// The length of the bytes without the "\r" and "\n" they end in.
+int lengthWithoutLineEnd(const QByteArray &bytes);
 // The bytes for a person to read: the text without its line end when every byte is
 // printable ASCII and hexDump is false, otherwise every byte in hex ("24 47 50 0d 0a"),
 // so that garbage and control bytes are shown exactly. Beyond maxBytes bytes the text

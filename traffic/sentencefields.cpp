@@ -1,5 +1,8 @@
 #include "sentencefields.h"
 
+#include "fieldtext.h"
+#include "linerecord.h"
+
 #include <algorithm>
 #include <initializer_list>
 
@@ -91,4 +94,28 @@ QStringList sentenceFieldNames(const QByteArray &kind, int fieldCount)
         groups = std::clamp((fieldCount - int(sentence->head.size())) / groupSize, 0, sentence->repeats);
     }
     return namesWithGroups(*sentence, groups);
+}
+
+QVector<NamedField> namedFields(const QByteArray &kind, const QByteArray &line)
+{
+    const QString text = QString::fromLatin1(line.constData(), lengthWithoutLineEnd(line));
+    FieldViews parts;
+    splitFields(text, parts);
+    const bool named = !kind.isEmpty();
+    const bool hasChecksum = named && parts.size() > 1 && text.contains(QLatin1Char('*'));
+    const int dataFields = parts.size() - 1 - (hasChecksum ? 1 : 0);
+    const QStringList names = named ? sentenceFieldNames(kind, dataFields) : QStringList();
+    QVector<NamedField> fields;
+    fields.reserve(parts.size());
+    for (int i = 0; i < parts.size(); ++i) {
+        QString name;
+        if (named && i == 0)
+            name = QStringLiteral("Address");
+        else if (hasChecksum && i == parts.size() - 1)
+            name = QStringLiteral("Checksum");
+        else if (named)
+            name = names.value(i - 1);
+        fields << NamedField{name, lineText(parts.at(i).toLatin1(), false)};
+    }
+    return fields;
 }

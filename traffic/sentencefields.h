@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <QVector>
 
 // The names of the fields after the address field of a common NMEA 0183 sentence, by
 // its type whatever the talker ("GPGGA", "GNGGA" and "BDGGA" alike): "UTC time",
@@ -14,3 +15,14 @@ QStringList sentenceFieldNames(const QByteArray &kind);
 // counted): a GSV sentence with fewer than four satellites has its signal id named
 // after the last satellite it holds.
 QStringList sentenceFieldNames(const QByteArray &kind, int fieldCount);
+
+struct NamedField
+{
+    QString name;  // empty when unknown
+    QString value; // as lineText() shows it
+};
+
+// The fields of a line split at ',' and '*' as the pages split them: the address field
+// first ("Address"), then the fields after it with their names, and the checksum last
+// ("Checksum") when the line has a '*'. Without a kind (garbage) nothing is named.
+QVector<NamedField> namedFields(const QByteArray &kind, const QByteArray &line);

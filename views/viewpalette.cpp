@@ -57,4 +57,20 @@ QColor seriesColour(int index)
     return colours[((index % count) + count) % count];
 }
 
+OutcomeColours outcomeColours(LineOutcome outcome)
+{
+    switch (outcome) {
+    case LineOutcome::Taken: return {};
+    case LineOutcome::NoPage: return {QColor(0x61, 0x61, 0x61), QColor()};
+    case LineOutcome::Refused: return {QColor(0x8a, 0x4b, 0x00), QColor(0xff, 0xf3, 0xe0)};
+    case LineOutcome::BadChecksum: return {QColor(0xb7, 0x1c, 0x1c), QColor(0xfd, 0xec, 0xea)};
+    case LineOutcome::CutShort: return {QColor(0xad, 0x14, 0x57), QColor(0xfc, 0xe4, 0xec)};
+    case LineOutcome::TooLong: return {QColor(0x4a, 0x14, 0x8c), QColor(0xf3, 0xe5, 0xf5)};
+    case LineOutcome::Garbage: break;
+    }
+    return {QColor(0x42, 0x42, 0x42), QColor(0xee, 0xee, 0xee)};
+}
+
+QColor invalidEntryColour() { return QColor(0xff, 0xcd, 0xd2); }
+
 } // namespace ViewPalette

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "linerecord.h"
 #include "receivertypes.h"
 
 #include <QColor>
@@ -26,5 +27,16 @@ QColor fixQualityColour(FixQuality quality);
 QColor warningColour();
 // Distinct colours for lines and bars that mean nothing by themselves; cycles.
 QColor seriesColour(int index);
+
+// How a line looks in the traffic tables by what became of it. An invalid colour
+// leaves the table's own: lines a page took are the ordinary case.
+struct OutcomeColours
+{
+    QColor foreground;
+    QColor background;
+};
+OutcomeColours outcomeColours(LineOutcome outcome);
+// The background of an entry the program cannot use (an invalid regular expression).
+QColor invalidEntryColour();
 
 } // namespace ViewPalette

@@ -1,5 +1,7 @@
 #include "headlessreplay.h"
 
+#include "linetraffic.h"
+
 #include "messageviewmodules.h"
 #include "receiverdocks.h"
 #include "receiverstate.h"
@@ -9,7 +11,9 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QStackedWidget>
 #include <QWidget>
@@ -30,28 +34,47 @@ QString peakRssText()
     return QStringLiteral("n/a");
 }
 
-// Feeds the whole input to the module and the state; returns the bytes read. A file or
-// pipe read blocks until bytes arrive and returns nothing at the end.
-qint64 feedAll(QIODevice &input, MessageViewModules &module, ReceiverState &state)
+// Feeds the whole input to the state and the module (the state first: its clock
+// stamps what the module reports); returns the bytes read. A file or pipe read blocks
+// until bytes arrive and returns nothing at the end.
+qint64 feedAll(QIODevice &input, MessageViewModules &module, ReceiverState &state, LineTraffic &traffic)
 {
     constexpr qint64 kChunk = 64 * 1024;
     qint64 bytes = 0;
     for (QByteArray chunk = input.read(kChunk); !chunk.isEmpty(); chunk = input.read(kChunk)) {
         bytes += chunk.size();
-        module.onUpdateBuffer(chunk);
         state.feed(chunk);
+        module.onUpdateBuffer(chunk);
     }
+    traffic.finish();
     return bytes;
+}
+
+void printUnpagedKindsAndDamage(const LineTraffic &traffic, QTextStream &out)
+{
+    const auto kinds = traffic.kindsWithoutPage();
+    out << "kinds without a page: " << kinds.size() << '\n';
+    for (const auto &kind : kinds)
+        out << "  " << kind.first << "  " << kind.second << '\n';
+    const TrafficTotals totals = traffic.statistics().totals(traffic.statistics().latestMs());
+    out << "damaged lines: " << totals.damagedLines << " (bad checksum " << traffic.count(LineOutcome::BadChecksum)
+        << ", cut short " << traffic.count(LineOutcome::CutShort) << ", too long " << traffic.count(LineOutcome::TooLong)
+        << "), garbage: " << traffic.count(LineOutcome::Garbage) << " stretches, " << totals.garbageBytes
+        << " bytes\n";
 }
 
 } // namespace
 
-bool writeStateReport(const ReceiverState &state, const QString &path, QString *error)
+bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, const QString &path, QString *error)
 {
     QFile file;
     const bool opened = path == QLatin1String("-") ? file.open(stdout, QIODevice::WriteOnly)
                                                    : (file.setFileName(path), file.open(QIODevice::WriteOnly));
-    const QByteArray json = QJsonDocument(receiverReport(state.snapshot())).toJson(QJsonDocument::Indented);
+    QJsonObject report = receiverReport(state.snapshot());
+    const MessageStatistics &statistics = traffic.statistics();
+    report.insert(QStringLiteral("messages"), statistics.toJson(statistics.latestMs()));
+    report.insert(QStringLiteral("garbageBytes"), double(statistics.totals(statistics.latestMs()).garbageBytes));
+    const QByteArray json = QJsonDocument(report).toJson(QJsonDocument::Indented);
     if (!opened || file.write(json) != json.size() || !file.flush()) {
         *error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
         return false;
@@ -59,11 +82,12 @@ bool writeStateReport(const ReceiverState &state, const QString &path, QString *
     return true;
 }
 
-int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, QIODevice &input, QTextStream &out)
+int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QIODevice &input,
+                      QTextStream &out)
 {
     QElapsedTimer timer;
     timer.start();
-    const qint64 bytes = feedAll(input, module, state);
+    const qint64 bytes = feedAll(input, module, state, traffic);
     const double seconds = qMax(timer.nsecsElapsed() / 1e9, 1e-9);
 
     quint64 taken = 0;
@@ -78,14 +102,15 @@ int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, QIODevic
     }
     out << "total lines: " << module.lineCount() << " (taken " << taken << ", refused "
         << module.lineCount() - taken << ")\n";
+    printUnpagedKindsAndDamage(traffic, out);
     out << "bytes: " << bytes << "  seconds: " << QString::number(seconds, 'f', 3)
         << "  MB/s: " << QString::number(bytes / seconds / 1e6, 'f', 1) << "  peak RSS: " << peakRssText() << '\n';
     out.flush();
     return 0;
 }
 
-int runSnapshot(MessageViewModules &module, ReceiverState &state, QStackedWidget &stack, QIODevice &input,
-                const QString &directory, QTextStream &out)
+int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QStackedWidget &stack,
+                QIODevice &input, const QString &directory, QTextStream &out)
 {
     if (!QDir().mkpath(directory)) {
         out << "msgview: cannot create " << directory << '\n';
@@ -102,7 +127,7 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, QStackedWidget
         page->show();
         pages << page;
     }
-    feedAll(input, module, state);
+    feedAll(input, module, state, traffic);
     QCoreApplication::processEvents();
 
     const QList<QPair<QString, quint64>> counts = module.acceptedLineCounts();

@@ -1,4 +1,5 @@
 #include "headlessreplay.h"
+#include "linetraffic.h"
 #include "mainwindow.h"
 #include "messageviewmodules.h"
 #include "receiverstate.h"
@@ -154,14 +155,18 @@ int main(int argc, char **argv)
         MessageViewModules module(&stack, language);
         module.addItemToTree(mode);
         ReceiverState state;
+        // A recording is timed by the receiver's own clock: rates per second of it.
+        LineTraffic traffic([&state] { return state.nowMs(); });
+        traffic.attach(&module);
         const QString reportPath = parser.value(reportOption);
         // The report on standard output leaves the summary to standard error.
         QTextStream out(reportPath == QLatin1String("-") ? stderr : stdout);
         const int status = parser.isSet(snapshotOption)
-            ? runSnapshot(module, state, stack, input, QFileInfo(parser.value(snapshotOption)).absoluteFilePath(), out)
-            : runHeadlessReplay(module, state, input, out);
+            ? runSnapshot(module, state, traffic, stack, input, QFileInfo(parser.value(snapshotOption)).absoluteFilePath(),
+                          out)
+            : runHeadlessReplay(module, state, traffic, input, out);
         QString error;
-        if (!reportPath.isEmpty() && !writeStateReport(state, reportPath, &error))
+        if (!reportPath.isEmpty() && !writeStateReport(state, traffic, reportPath, &error))
             return fail(error);
         return status;
     }

@@ -69,6 +69,8 @@ private slots:
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
     void reportsARealReceiverAsJson();
+    void messageCountsMatchAnIndependentCount_data();
+    void messageCountsMatchAnIndependentCount();
     void binaryModeFindsItsFilesBesideTheProgram();
     void retriesBackOffToHalfAMinute();
     void commandLineWithoutDisplay_data();
@@ -270,11 +272,8 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
     QVERIFY(headless.waitForFinished(60000));
     const QString summary = QString::fromUtf8(headless.readAllStandardOutput());
     QVERIFY2(summary.contains("total lines: 600 (taken 600, refused 0)"), qPrintable(summary));
-    int pages = 0;
-    for (const QString &line : summary.split('\n')) {
-        if (!line.isEmpty() && !line.startsWith("page") && !line.startsWith("total") && !line.startsWith("bytes"))
-            ++pages;
-    }
+    // The page table: the lines between its heading and the totals.
+    const int pages = summary.left(summary.indexOf("total lines:")).count('\n') - 1;
     // A picture of every page and of the four receiver views.
     const QFileInfoList pngs = QDir(dir.path()).entryInfoList({"*.png"});
     QCOMPARE(pngs.size(), pages + 4);
@@ -317,6 +316,54 @@ void ConsoleTest::reportsARealReceiverAsJson()
     }
     QCOMPARE(inView, (QMap<QString, int>{{"BDS", 10}, {"GLONASS", 8}, {"GPS", 10}, {"Galileo", 10}}));
     QCOMPARE(used, (QMap<QString, int>{{"BDS", 5}, {"GLONASS", 1}, {"GPS", 4}, {"Galileo", 4}}));
+}
+
+void ConsoleTest::messageCountsMatchAnIndependentCount_data()
+{
+    QTest::addColumn<QString>("capture");
+    for (const char *capture : {"GPSmap-76S.log", "ch-4711.log", "beidou-bd.log", "gp-320fw-2019-04-07-coldboot.log",
+                                "ericsson-gru04-02-70sec.log", "skytraq-px1172rh-excerpt.log"})
+        QTest::newRow(capture) << QString(capture);
+}
+
+// Lines and damaged lines per kind, as the report gives them, against a count made
+// here with nothing of the console's: cut at "\r\n" (a lone '\n' ends no line), the
+// kind up to the first ',' or '*', and the XOR of the bytes between '$' and the first
+// '*' against the hex number that is all the rest of the line.
+void ConsoleTest::messageCountsMatchAnIndependentCount()
+{
+    QFETCH(QString, capture);
+    QFile file(TEST_DATA_DIR "/" + capture);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    QMap<QString, QPair<int, int>> expected; // kind: lines, damaged
+    QList<QByteArray> lines;
+    for (int at = 0, end; (end = bytes.indexOf("\r\n", at)) >= 0; at = end + 2)
+        lines << bytes.mid(at, end - at);
+    for (const QByteArray &line : lines) {
+        if (!line.startsWith('$'))
+            continue; // garbage
+        const int star = line.indexOf('*');
+        const int comma = line.indexOf(',');
+        const int kindEnd = star < 0 ? (comma < 0 ? line.size() : comma) : (comma < 0 ? star : qMin(comma, star));
+        quint8 sum = 0;
+        for (int i = 1; i < star; ++i)
+            sum ^= quint8(line.at(i));
+        bool isHex = false;
+        const int written = star > 0 ? line.mid(star + 1).toInt(&isHex, 16) : -1;
+        const bool valid = isHex && written == sum;
+        auto &count = expected[QString::fromLatin1(line.mid(1, qMin(kindEnd - 1, 32)))];
+        ++count.first;
+        count.second += valid ? 0 : 1;
+    }
+    QProcess msgview;
+    msgview.start(MSGVIEW_BINARY, {"--mode", "0", "--report", "-", "--replay", file.fileName()});
+    QVERIFY(msgview.waitForFinished(60000));
+    QMap<QString, QPair<int, int>> reported;
+    for (const QJsonValue &kind : QJsonDocument::fromJson(msgview.readAllStandardOutput())["messages"].toArray())
+        reported[kind["kind"].toString()] = {kind["lines"].toInt(), kind["badChecksum"].toInt()};
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(reported, expected);
 }
 
 // Installed as users install it: the descriptions found from any working directory,

@@ -1,7 +1,9 @@
 #include "mainwindow.h"
 
 #include "messageviewmodules.h"
+#include "linetraffic.h"
 #include "receiverdocks.h"
+#include "trafficdocks.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -79,8 +81,10 @@ MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
     connect(&m_statusTimer, &QTimer::timeout, this, &MainWindow::updateStatus);
     m_statusTimer.start(1000);
 
+    m_traffic = new LineTraffic([] { return QDateTime::currentMSecsSinceEpoch(); }, this);
     createModule();
     m_docks = new ReceiverDocks(m_state, *this);
+    m_trafficDocks = new TrafficDocks(*m_traffic, *this);
     buildMenus();
     resize(1600, 1000);
     // Where the user left the window and its docks.
@@ -105,6 +109,7 @@ void MainWindow::createModule()
         delete m_module;
     }
     m_module = new MessageViewModules(m_stack, m_language);
+    m_traffic->attach(m_module);
     m_splitter->insertWidget(0, m_module->getTreeWidget());
     if (m_splitter->indexOf(m_stack) < 0)
         m_splitter->addWidget(m_stack);
@@ -131,7 +136,7 @@ void MainWindow::buildMenus()
     });
     connectionMenu->addAction(tr("Restart replay"), this, [this] {
         if (m_connection && m_connection->canPause()) {
-            m_state.reset();
+            forgetReceiver();
             m_connection->restart();
         }
     });
@@ -175,6 +180,8 @@ void MainWindow::buildMenus()
     viewMenu->addAction(tr("Clear received marks"), this, [this] { m_module->setTreeForeground(); });
     viewMenu->addSeparator();
     m_docks->addToggleActions(viewMenu);
+    viewMenu->addSeparator();
+    m_trafficDocks->addToggleActions(viewMenu);
 }
 
 void MainWindow::setMode(int mode)
@@ -203,13 +210,20 @@ void MainWindow::setLanguage(const QString &language)
 void MainWindow::connectTo(std::unique_ptr<ReceiverConnection> connection)
 {
     disconnectReceiver();
-    // Another receiver, or the same session again: nothing of the last one carries over.
-    m_state.reset();
+    forgetReceiver();
     m_connection = std::move(connection);
     connect(m_connection.get(), &ReceiverConnection::dataReceived, this, &MainWindow::onData);
     connect(m_connection.get(), &ReceiverConnection::stateChanged, this, &MainWindow::onConnectionState);
     m_pauseAction->setChecked(false);
     m_connection->open();
+}
+
+// Another receiver, or the same session again: nothing of the last one carries over.
+void MainWindow::forgetReceiver()
+{
+    m_state.reset();
+    m_traffic->reset();
+    m_trafficDocks->clear();
 }
 
 void MainWindow::disconnectReceiver()
@@ -273,6 +287,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
     settings.setValue(QStringLiteral("window/state"), saveState());
     m_docks->saveSettings();
+    m_trafficDocks->saveSettings();
     QMainWindow::closeEvent(event);
 }
 

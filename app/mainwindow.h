@@ -11,7 +11,9 @@
 #include <memory>
 
 class MessageViewModules;
+class LineTraffic;
 class ReceiverDocks;
+class TrafficDocks;
 class QActionGroup;
 class QLabel;
 class QLineEdit;
@@ -33,6 +35,8 @@ public:
     ReceiverConnection *connection() const { return m_connection.get(); }
     ReceiverState *receiverState() { return &m_state; }
     ReceiverDocks *receiverDocks() const { return m_docks; }
+    TrafficDocks *trafficDocks() const { return m_trafficDocks; }
+    LineTraffic *lineTraffic() const { return m_traffic; }
     int mode() const { return m_mode; }
 
     // Takes over a connection, opens it and shows its state.
@@ -52,6 +56,7 @@ private:
     void createModule();
     void buildMenus();
     void onData(const QByteArray &bytes);
+    void forgetReceiver();
     void onConnectionState(ReceiverConnection::State state, const QString &text);
     void updateStatus();
     void chooseSerialPort();
@@ -68,6 +73,8 @@ private:
     std::unique_ptr<ReceiverConnection> m_connection;
     ReceiverState m_state;
     ReceiverDocks *m_docks = nullptr;
+    LineTraffic *m_traffic = nullptr;
+    TrafficDocks *m_trafficDocks = nullptr;
     QFile m_recording;
     QActionGroup *m_modeGroup = nullptr;
     QActionGroup *m_languageGroup = nullptr;

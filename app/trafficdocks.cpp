@@ -1,0 +1,81 @@
+#include "trafficdocks.h"
+
+#include "fieldview.h"
+#include "linetraffic.h"
+#include "messagestatisticsview.h"
+#include "packetconsoleview.h"
+
+#include <QDateTime>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QSettings>
+
+TrafficDocks::TrafficDocks(LineTraffic &traffic, QMainWindow &window)
+    : QObject(&window)
+    , m_traffic(traffic)
+    , m_packets(new PacketConsoleView)
+    , m_statistics(new MessageStatisticsView(traffic.statistics()))
+    , m_fields(new FieldView)
+{
+    QSettings settings;
+    m_packets->setCapacity(settings.value(QStringLiteral("traffic/capacity"), m_packets->capacity()).toInt());
+    m_packets->setFollowing(settings.value(QStringLiteral("traffic/follow"), true).toBool());
+    m_traffic.setSink([this](const LineRecord &record) { m_packets->append(record); });
+    connect(m_packets, &PacketConsoleView::lineSelected, m_fields, &FieldView::showLine);
+    connect(m_statistics, &MessageStatisticsView::kindSelected, this, &TrafficDocks::showLatestLineOf);
+
+    // First placed with the views of the receiver, as tabs; the user moves them.
+    QDockWidget *packets = addDock(window, m_packets, "packets", tr("Packets"));
+    QDockWidget *messages = addDock(window, m_statistics, "messages", tr("Messages"));
+    QDockWidget *fields = addDock(window, m_fields, "fields", tr("Fields"));
+    for (QDockWidget *dock : window.findChildren<QDockWidget *>()) {
+        if (dock->objectName() == QLatin1String("dock-signals")) {
+            window.tabifyDockWidget(dock, packets);
+            window.tabifyDockWidget(packets, messages);
+            dock->raise();
+        } else if (dock->objectName() == QLatin1String("dock-position")) {
+            window.tabifyDockWidget(dock, fields);
+            dock->raise();
+        }
+    }
+}
+
+QDockWidget *TrafficDocks::addDock(QMainWindow &window, QWidget *widget, const char *name, const QString &title)
+{
+    auto *dock = new QDockWidget(title, &window);
+    dock->setObjectName(QStringLiteral("dock-%1").arg(QLatin1String(name)));
+    dock->setWidget(widget);
+    window.addDockWidget(Qt::BottomDockWidgetArea, dock);
+    m_docks << dock;
+    return dock;
+}
+
+void TrafficDocks::addToggleActions(QMenu *menu) const
+{
+    for (QDockWidget *dock : m_docks)
+        menu->addAction(dock->toggleViewAction());
+}
+
+void TrafficDocks::saveSettings() const
+{
+    QSettings settings;
+    settings.setValue(QStringLiteral("traffic/capacity"), m_packets->capacity());
+    settings.setValue(QStringLiteral("traffic/follow"), m_packets->isFollowing());
+}
+
+void TrafficDocks::clear()
+{
+    m_packets->model().clear();
+    m_statistics->refresh();
+}
+
+void TrafficDocks::showLatestLineOf(const QByteArray &kind)
+{
+    for (const KindStatistics &statistics : m_traffic.statistics().kinds(m_traffic.now())) {
+        if (statistics.kind == kind) {
+            m_fields->showLine(kind, statistics.lastLine);
+            return;
+        }
+    }
+}

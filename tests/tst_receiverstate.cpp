@@ -113,6 +113,8 @@ private slots:
     void clock();
     void quality_data();
     void quality();
+    void speedAndCourse_data();
+    void speedAndCourse();
     void statistics_data();
     void statistics();
     void sinceResetStaysBoundedAndTrue();
@@ -306,6 +308,28 @@ void ReceiverStateTest::quality()
     ReceiverState state;
     feed(state, bodies);
     QTEST(fixQualityName(state.fix().quality), "quality");
+}
+
+void ReceiverStateTest::speedAndCourse_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("expected"); // m/s, degrees
+    QTest::newRow("RMC in knots") << QByteArray("GNRMC,074159.799,A,3114.8943,N,12135.2444,E,10.0,4.94,250215,,,A")
+                                  << "5.14444 4.94";
+    QTest::newRow("VTG in km/h") << QByteArray("GNVTG,171.0,T,,M,010.0,N,036.0,K,D") << "10 171";
+    QTest::newRow("VTG in knots only") << QByteArray("GNVTG,171.0,T,,M,010.0,N,,K,D") << "5.14444 171";
+    QTest::newRow("BESTVEL in m/s") << logHeader("BESTVEL") + "SOL_COMPUTED,DOPPLER_VELOCITY,0.15,0,8.25,93.5,0.1,0"
+                                    << "8.25 93.5";
+    QTest::newRow("BESTVEL without a solution") << logHeader("BESTVEL") + "INSUFFICIENT_OBS,NONE,0,0,8.25,93.5,0,0"
+                                                << "- -";
+}
+
+void ReceiverStateTest::speedAndCourse()
+{
+    QFETCH(QByteArray, body);
+    ReceiverState state;
+    feed(state, {body});
+    QTEST(text(state.fix().speed) + ' ' + text(state.fix().course), "expected");
 }
 
 void ReceiverStateTest::statistics_data()

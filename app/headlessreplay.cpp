@@ -4,6 +4,7 @@
 
 #include "messageviewmodules.h"
 #include "receiverdocks.h"
+#include "trafficdocks.h"
 #include "receiverstate.h"
 #include "statereport.h"
 
@@ -127,6 +128,7 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &t
         page->show();
         pages << page;
     }
+    TrafficPictures trafficPictures(traffic);
     feedAll(input, module, state, traffic);
     QCoreApplication::processEvents();
 
@@ -149,8 +151,8 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &t
         page->hide();
         stack.addWidget(page);
     }
-    const int views = ReceiverDocks::savePictures(state, directory, out);
+    const int views = ReceiverDocks::savePictures(state, directory, out) + trafficPictures.save(directory, out);
     out << written << " pages and " << views << " views written to " << directory << '\n';
     out.flush();
-    return written == pages.size() && views == ReceiverDocks::viewCount() ? 0 : 1;
+    return written == pages.size() && views == ReceiverDocks::viewCount() + TrafficPictures::count ? 0 : 1;
 }

@@ -5,7 +5,9 @@
 #include "messagestatisticsview.h"
 #include "packetconsoleview.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
@@ -78,4 +80,41 @@ void TrafficDocks::showLatestLineOf(const QByteArray &kind)
             return;
         }
     }
+}
+
+TrafficPictures::TrafficPictures(LineTraffic &traffic)
+    : m_traffic(traffic)
+    , m_packets(std::make_unique<PacketConsoleView>())
+    , m_statistics(std::make_unique<MessageStatisticsView>(traffic.statistics()))
+{
+    m_statistics->setClock([&traffic] { return traffic.statistics().latestMs(); });
+    for (QWidget *view : {static_cast<QWidget *>(m_packets.get()), static_cast<QWidget *>(m_statistics.get())}) {
+        view->resize(900, 500);
+        view->show();
+    }
+    m_traffic.setSink([this](const LineRecord &record) { m_packets->append(record); });
+}
+
+TrafficPictures::~TrafficPictures()
+{
+    m_traffic.setSink(nullptr);
+}
+
+int TrafficPictures::save(const QString &directory, QTextStream &out)
+{
+    m_packets->model().flush();
+    m_statistics->refresh();
+    QCoreApplication::processEvents();
+    int written = 0;
+    for (const auto &[name, view] : {std::pair<const char *, QWidget *>{"packets", m_packets.get()},
+                                     std::pair<const char *, QWidget *>{"messages", m_statistics.get()}}) {
+        const QString path = QDir(directory).filePath(QStringLiteral("dock-%1.png").arg(QLatin1String(name)));
+        if (view->grab().save(path)) {
+            ++written;
+            out << path << '\n';
+        } else {
+            out << "msgview: cannot write " << path << '\n';
+        }
+    }
+    return written;
 }

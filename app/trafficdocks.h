@@ -2,6 +2,8 @@
 
 #include <QList>
 #include <QObject>
+#include <QTextStream>
+#include <memory>
 
 class FieldView;
 class LineTraffic;
@@ -37,4 +39,21 @@ private:
     MessageStatisticsView *m_statistics;
     FieldView *m_fields;
     QList<QDockWidget *> m_docks;
+};
+
+// The packet console and the message statistics of a replay as pictures: made before
+// the replay so that the console receives its lines, saved after it.
+class TrafficPictures
+{
+public:
+    explicit TrafficPictures(LineTraffic &traffic);
+    ~TrafficPictures();
+    // Writes dock-packets.png and dock-messages.png; returns how many were written.
+    int save(const QString &directory, QTextStream &out);
+    static constexpr int count = 2;
+
+private:
+    LineTraffic &m_traffic;
+    std::unique_ptr<PacketConsoleView> m_packets;
+    std::unique_ptr<MessageStatisticsView> m_statistics;
 };

@@ -69,7 +69,8 @@ void PacketConsoleModel::flush()
         endRemoveRows();
     }
     QVector<quint64> added;
-    for (quint64 number = std::max(firstNew, first); number < m_shown.appendedTotal(); ++number) {
+    // m_waiting is bounded as m_shown is, so every line of the batch is still there.
+    for (quint64 number = firstNew; number < m_shown.appendedTotal(); ++number) {
         if (matches(m_shown.at(int(number - first))))
             added << number;
     }

@@ -214,7 +214,7 @@ QVariant PacketConsoleModel::headerData(int section, Qt::Orientation orientation
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (section) {
-    case TimeColumn: return tr("Received (UTC)");
+    case TimeColumn: return tr("Time (UTC)");
     case KindColumn: return tr("Kind");
     case LengthColumn: return tr("Bytes");
     case OutcomeColumn: return tr("Outcome");

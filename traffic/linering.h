@@ -7,7 +7,7 @@
 // The last lines of the stream, oldest first, at most capacity() of them: memory stays
 // flat however long the console runs. Their bytes are bounded too: a record keeps at
 // most maxRecordBytes of its line, and the oldest lines go early when all the kept bytes
-// would exceed byteBudget (only lines far longer than usual get there).
+// would exceed byteBudget (a full ring of 100,000 lines averaging over 335 bytes).
 class LineRing
 {
 public:

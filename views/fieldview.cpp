@@ -1,7 +1,8 @@
 #include "fieldview.h"
 
+#include "tablestyle.h"
+
 #include <QBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QTableView>
 
@@ -34,13 +35,15 @@ QVariant FieldTableModel::data(const QModelIndex &index, int role) const
         default: return field.value;
         }
     }
-    if (role == Qt::TextAlignmentRole && index.column() == NumberColumn)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole)
+        return headerData(index.column(), Qt::Horizontal, role);
     return {};
 }
 
 QVariant FieldTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
+        return section == NumberColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (section) {
@@ -63,19 +66,9 @@ FieldView::FieldView(QWidget *parent) : QWidget(parent)
 
     auto *table = new QTableView(this);
     table->setModel(&m_model);
-    table->setWordWrap(false);
-    table->setShowGrid(false);
+    setUpTrafficTable(table);
     table->setAlternatingRowColors(true);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 4);
-    QHeaderView *header = table->horizontalHeader();
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int digit = table->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    header->resizeSection(FieldTableModel::NumberColumn, digit * 5);
-    header->resizeSection(FieldTableModel::NameColumn, digit * 20);
-    header->setStretchLastSection(true);
+    setColumnsWide(table, {QStringLiteral("000"), QStringLiteral("Destination longitude")});
     layout->addWidget(table, 1);
 }
 
@@ -83,5 +76,8 @@ void FieldView::showLine(const QByteArray &kind, const QByteArray &bytes)
 {
     m_model.setFields(namedFields(kind, bytes));
     const QString name = kind.isEmpty() ? tr("Bytes that are no line") : QString::fromLatin1(kind);
-    m_title->setText(tr("<b>%1</b> · %n fields", nullptr, m_model.rowCount()).arg(name.toHtmlEscaped()));
+    QString title = tr("<b>%1</b> · %n fields", nullptr, m_model.rowCount()).arg(name.toHtmlEscaped());
+    if (!kind.isEmpty() && sentenceFieldNames(kind).isEmpty())
+        title += tr(" · no names known for this kind");
+    m_title->setText(title);
 }

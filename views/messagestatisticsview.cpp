@@ -1,10 +1,10 @@
 #include "messagestatisticsview.h"
 
+#include "tablestyle.h"
 #include "viewpalette.h"
 
 #include <QBoxLayout>
 #include <QDateTime>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -90,8 +90,7 @@ QVariant MessageStatisticsModel::data(const QModelIndex &index, int role) const
         default: break;
         }
         return QString::number(value(kind, column).toDouble(), 'f', 3);
-    case Qt::TextAlignmentRole:
-        return column == KindColumn ? QVariant() : QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    case Qt::TextAlignmentRole: return headerData(column, Qt::Horizontal, role);
     case Qt::ForegroundRole:
         if (column == BadChecksumColumn && kind.badChecksum > 0)
             return ViewPalette::outcomeColours(LineOutcome::BadChecksum).foreground;
@@ -103,6 +102,8 @@ QVariant MessageStatisticsModel::data(const QModelIndex &index, int role) const
 
 QVariant MessageStatisticsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
+        return section == KindColumn ? QVariant() : QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (section) {
@@ -110,12 +111,12 @@ QVariant MessageStatisticsModel::headerData(int section, Qt::Orientation orienta
     case LinesColumn: return tr("Lines");
     case BadChecksumColumn: return tr("Bad checksum");
     case BytesColumn: return tr("Bytes");
-    case RateColumn: return tr("Rate (Hz)");
-    case MeanGapColumn: return tr("Mean gap (s)");
-    case LargestGapColumn: return tr("Largest gap (s)");
+    case RateColumn: return tr("Rate Hz");
+    case MeanGapColumn: return tr("Mean gap s");
+    case LargestGapColumn: return tr("Largest gap s");
     default: break;
     }
-    return tr("Since last (s)");
+    return tr("Since last s");
 }
 
 MessageStatisticsView::MessageStatisticsView(MessageStatistics &statistics, QWidget *parent)
@@ -142,19 +143,11 @@ MessageStatisticsView::MessageStatisticsView(MessageStatistics &statistics, QWid
     m_table->setModel(&m_sorted);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(MessageStatisticsModel::KindColumn, Qt::AscendingOrder);
-    m_table->setWordWrap(false);
-    m_table->setShowGrid(false);
+    setUpTrafficTable(m_table);
     m_table->setAlternatingRowColors(true);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 4);
-    // Sized once by the headers: sizing by contents would read every row each second.
-    QHeaderView *header = m_table->horizontalHeader();
-    header->resizeSections(QHeaderView::ResizeToContents);
-    header->resizeSection(MessageStatisticsModel::KindColumn, m_table->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 12);
-    header->setStretchLastSection(true);
+    setColumnsWide(m_table, {QStringLiteral("PQTMVERNO"), QStringLiteral("000,000"), QString(),
+                             QStringLiteral("00,000,000"), QString(), QString(), QString()});
     layout->addWidget(m_table, 1);
 
     connect(reset, &QPushButton::clicked, this, [this] {

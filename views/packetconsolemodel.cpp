@@ -69,7 +69,8 @@ void PacketConsoleModel::flush()
         endRemoveRows();
     }
     QVector<quint64> added;
-    for (quint64 number = std::max(firstNew, first); number < m_shown.appendedTotal(); ++number) {
+    // m_waiting is bounded as m_shown is, so every line of the batch is still there.
+    for (quint64 number = firstNew; number < m_shown.appendedTotal(); ++number) {
         if (matches(m_shown.at(int(number - first))))
             added << number;
     }
@@ -91,9 +92,10 @@ void PacketConsoleModel::setPaused(bool paused)
         flush();
 }
 
+// Both rings keep their newest lines, so a flush after it still leaves the newest
+// `lines` of all.
 void PacketConsoleModel::setCapacity(int lines)
 {
-    flush();
     m_waiting.setCapacity(lines);
     beginResetModel();
     m_shown.setCapacity(lines);
@@ -199,8 +201,7 @@ QVariant PacketConsoleModel::data(const QModelIndex &index, int role) const
     case Qt::ForegroundRole: return colourOrNothing(ViewPalette::outcomeColours(line.outcome).foreground);
     case Qt::BackgroundRole: return colourOrNothing(ViewPalette::outcomeColours(line.outcome).background);
     case Qt::FontRole: return index.column() == TextColumn ? QVariant(m_fixedFont) : QVariant();
-    case Qt::TextAlignmentRole:
-        return index.column() == LengthColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    case Qt::TextAlignmentRole: return headerData(index.column(), Qt::Horizontal, role);
     default: break;
     }
     return {};
@@ -208,10 +209,12 @@ QVariant PacketConsoleModel::data(const QModelIndex &index, int role) const
 
 QVariant PacketConsoleModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
+        return section == LengthColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (section) {
-    case TimeColumn: return tr("Received (UTC)");
+    case TimeColumn: return tr("Time (UTC)");
     case KindColumn: return tr("Kind");
     case LengthColumn: return tr("Bytes");
     case OutcomeColumn: return tr("Outcome");

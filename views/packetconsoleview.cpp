@@ -1,5 +1,6 @@
 #include "packetconsoleview.h"
 
+#include "tablestyle.h"
 #include "viewpalette.h"
 
 #include <QAction>
@@ -8,7 +9,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -104,21 +104,9 @@ PacketConsoleView::PacketConsoleView(QWidget *parent) : QWidget(parent)
 
     m_table = new QTableView(this);
     m_table->setModel(&m_model);
-    m_table->setWordWrap(false);
-    m_table->setShowGrid(false);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 4);
-    QHeaderView *header = m_table->horizontalHeader();
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    header->setStretchLastSection(true);
-    const int digit = m_table->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    header->resizeSection(PacketConsoleModel::TimeColumn, digit * 14);
-    header->resizeSection(PacketConsoleModel::KindColumn, digit * 11);
-    header->resizeSection(PacketConsoleModel::LengthColumn, digit * 7);
-    header->resizeSection(PacketConsoleModel::OutcomeColumn, digit * 14);
+    setUpTrafficTable(m_table);
+    setColumnsWide(m_table, {QStringLiteral("00:00:00.000"), QStringLiteral("PQTMVERNO"), QStringLiteral("00000"),
+                             lineOutcomeName(LineOutcome::BadChecksum)});
     layout->addWidget(m_table, 1);
 
     m_counts = new QLabel(this);

@@ -25,4 +25,4 @@ awk 'NR == FNR { if (NF == 3 && $2 ~ /^[0-9]+$/) expected[$1] = $3
      !table_done && NF == 2 && $2 ~ /^[0-9]+$/ { pages++; if (expected[$1] != $2) { bad++; print "mismatch: " $1 " took " $2 ", expected " expected[$1] } }
      END { printf "%d pages and the totals compared, %d mismatches\n", pages, bad; exit bad > 0 }' "$work/sent.txt" "$work/taken.txt"
 grep -E '^rxsim:|^lines sent' "$work/sent.txt"
-grep -E '^(total lines|kinds without|damaged lines|bytes):' "$work/taken.txt"
+grep -E '^(total lines|kinds without a page|damaged lines|bytes):' "$work/taken.txt"

@@ -110,6 +110,14 @@ int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, LineTraf
     return 0;
 }
 
+bool writePicture(QWidget &widget, const QString &directory, const QString &name, QTextStream &out)
+{
+    const QString path = QDir(directory).filePath(name + QStringLiteral(".png"));
+    const bool written = widget.grab().save(path);
+    out << (written ? path : QStringLiteral("msgview: cannot write ") + path) << '\n';
+    return written;
+}
+
 int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QStackedWidget &stack,
                 QIODevice &input, const QString &directory, QTextStream &out)
 {
@@ -138,13 +146,7 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &t
         const QString label = i < counts.size() ? counts.at(i).first : QString::number(i);
         QString name = label;
         name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_.-]")), QStringLiteral("_"));
-        const QString path = QDir(directory).filePath(name + QStringLiteral(".png"));
-        if (pages.at(i)->grab().save(path)) {
-            ++written;
-            out << path << '\n';
-        } else {
-            out << "msgview: cannot write " << path << '\n';
-        }
+        written += writePicture(*pages.at(i), directory, name, out);
     }
     // Give the pages back so the module finds them where it put them.
     for (QWidget *page : pages) {

@@ -5,6 +5,7 @@
 #include <QTextStream>
 
 class MessageViewModules;
+class QWidget;
 class QStackedWidget;
 class LineTraffic;
 class ReceiverState;
@@ -23,3 +24,7 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &t
 // The receiver state and the messages seen as one JSON object, into path ("-":
 // standard output).
 bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, const QString &path, QString *error);
+
+// Saves a picture of the widget as it is into directory/name.png and names the file on
+// out (or says it could not); true when written.
+bool writePicture(QWidget &widget, const QString &directory, const QString &name, QTextStream &out);

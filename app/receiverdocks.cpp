@@ -1,5 +1,6 @@
 #include "receiverdocks.h"
 
+#include "headlessreplay.h"
 #include "historyview.h"
 #include "positionview.h"
 #include "receiverstate.h"
@@ -7,7 +8,6 @@
 #include "skyview.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
@@ -139,13 +139,7 @@ int ReceiverDocks::savePictures(ReceiverState &state, const QString &directory, 
         view->show();
         view->showSnapshot(snapshot);
         QCoreApplication::processEvents();
-        const QString path = QDir(directory).filePath(QStringLiteral("view-%1.png").arg(QLatin1String(kind.name)));
-        if (view->grab().save(path)) {
-            ++written;
-            out << path << '\n';
-        } else {
-            out << "msgview: cannot write " << path << '\n';
-        }
+        written += writePicture(*view, directory, QStringLiteral("view-%1").arg(QLatin1String(kind.name)), out);
     }
     return written;
 }

@@ -1,13 +1,13 @@
 #include "trafficdocks.h"
 
 #include "fieldview.h"
+#include "headlessreplay.h"
 #include "linetraffic.h"
 #include "messagestatisticsview.h"
 #include "packetconsoleview.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
@@ -108,13 +108,7 @@ int TrafficPictures::save(const QString &directory, QTextStream &out)
     int written = 0;
     for (const auto &[name, view] : {std::pair<const char *, QWidget *>{"packets", m_packets.get()},
                                      std::pair<const char *, QWidget *>{"messages", m_statistics.get()}}) {
-        const QString path = QDir(directory).filePath(QStringLiteral("dock-%1.png").arg(QLatin1String(name)));
-        if (view->grab().save(path)) {
-            ++written;
-            out << path << '\n';
-        } else {
-            out << "msgview: cannot write " << path << '\n';
-        }
+        written += writePicture(*view, directory, QStringLiteral("dock-%1").arg(QLatin1String(name)), out);
     }
     return written;
 }

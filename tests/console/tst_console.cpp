@@ -69,6 +69,7 @@ private slots:
     void badAddressesAndMissingFilesFailClearly();
     void snapshotWritesOnePngPerPage();
     void reportsARealReceiverAsJson();
+    void aLineTooLongIsOneDamagedLine();
     void messageCountsMatchAnIndependentCount_data();
     void messageCountsMatchAnIndependentCount();
     void binaryModeFindsItsFilesBesideTheProgram();
@@ -316,6 +317,23 @@ void ConsoleTest::reportsARealReceiverAsJson()
     }
     QCOMPARE(inView, (QMap<QString, int>{{"BDS", 10}, {"GLONASS", 8}, {"GPS", 10}, {"Galileo", 10}}));
     QCOMPARE(used, (QMap<QString, int>{{"BDS", 5}, {"GLONASS", 1}, {"GPS", 4}, {"Galileo", 4}}));
+}
+
+// Read in 64 KB pieces, a 600 KB line is dropped in many stretches, and counted once;
+// the short line after it carries a wrong checksum.
+void ConsoleTest::aLineTooLongIsOneDamagedLine()
+{
+    QTemporaryFile recording;
+    QVERIFY(recording.open());
+    recording.write("$GPTXT," + QByteArray(600 * 1024, 'x') + "\r\n");
+    recording.write("$GPTXT,01,01,02,short*2A\r\n");
+    recording.close();
+    QProcess msgview;
+    msgview.start(MSGVIEW_BINARY, {"--headless", "--mode", "0", "--replay", recording.fileName()});
+    QVERIFY(msgview.waitForFinished(60000));
+    const QString summary = QString::fromUtf8(msgview.readAllStandardOutput());
+    QVERIFY2(summary.contains("damaged lines: 2 (bad checksum 1, cut short 0, too long 1), garbage: 0"), qPrintable(summary));
+    QVERIFY2(summary.contains("  GPTXT  2\n"), qPrintable(summary));
 }
 
 void ConsoleTest::messageCountsMatchAnIndependentCount_data()

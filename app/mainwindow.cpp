@@ -14,6 +14,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -90,7 +91,16 @@ MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
     // Where the user left the window and its docks.
     QSettings settings;
     restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
-    restoreState(settings.value(QStringLiteral("window/state")).toByteArray());
+    if (!restoreState(settings.value(QStringLiteral("window/state")).toByteArray())) {
+        // First sizes, once the window is laid out: room for the position plot beside the
+        // pages and for the history beside the signals.
+        QTimer::singleShot(0, this, [this] {
+            const QList<QDockWidget *> &docks = m_docks->docks(); // sky, position, signals, history
+            resizeDocks({docks.at(0)}, {width() * 2 / 5}, Qt::Horizontal);
+            resizeDocks({docks.at(2)}, {height() / 3}, Qt::Vertical);
+            resizeDocks({docks.at(2), docks.at(3)}, {width() * 3 / 5, width() * 2 / 5}, Qt::Horizontal);
+        });
+    }
     updateStatus();
 }
 

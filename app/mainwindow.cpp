@@ -72,6 +72,8 @@ MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
     connect(send, &QPushButton::clicked, m_commandLine, &QLineEdit::returnPressed);
 
     m_connectionLabel = new QLabel(tr("not connected"));
+    connect(&m_session, &ReceiverSession::dataReceived, this, &MainWindow::onData);
+    connect(&m_session, &ReceiverSession::connectionStateChanged, this, &MainWindow::onConnectionState);
     m_rateLabel = new QLabel;
     m_totalLabel = new QLabel;
     m_silenceLabel = new QLabel;
@@ -106,7 +108,7 @@ MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    m_connection.reset();
+    m_session.close();
     // The tree sits in the splitter; hand it back to the module, which owns it.
     m_module->getTreeWidget()->setParent(nullptr);
     delete m_module;
@@ -141,13 +143,13 @@ void MainWindow::buildMenus()
     m_pauseAction = connectionMenu->addAction(tr("&Pause replay"));
     m_pauseAction->setCheckable(true);
     connect(m_pauseAction, &QAction::toggled, this, [this](bool paused) {
-        if (m_connection)
-            m_connection->setPaused(paused);
+        if (connection())
+            connection()->setPaused(paused);
     });
     connectionMenu->addAction(tr("Restart replay"), this, [this] {
-        if (m_connection && m_connection->canPause()) {
+        if (connection() && connection()->canPause()) {
             forgetReceiver();
-            m_connection->restart();
+            connection()->restart();
         }
     });
     connectionMenu->addAction(tr("&Disconnect"), this, &MainWindow::disconnectReceiver);
@@ -221,11 +223,8 @@ void MainWindow::connectTo(std::unique_ptr<ReceiverConnection> connection)
 {
     disconnectReceiver();
     forgetReceiver();
-    m_connection = std::move(connection);
-    connect(m_connection.get(), &ReceiverConnection::dataReceived, this, &MainWindow::onData);
-    connect(m_connection.get(), &ReceiverConnection::stateChanged, this, &MainWindow::onConnectionState);
     m_pauseAction->setChecked(false);
-    m_connection->open();
+    m_session.open(std::move(connection));
 }
 
 // Another receiver, or the same session again: nothing of the last one carries over.
@@ -238,10 +237,7 @@ void MainWindow::forgetReceiver()
 
 void MainWindow::disconnectReceiver()
 {
-    if (!m_connection)
-        return;
-    m_connection->close();
-    m_connection.reset();
+    m_session.close();
 }
 
 void MainWindow::onData(const QByteArray &bytes)
@@ -266,11 +262,11 @@ bool MainWindow::sendCommandText(const QString &command)
     const QString trimmed = command.trimmed();
     if (trimmed.isEmpty())
         return false;
-    if (!m_connection || !m_connection->canWrite()) {
+    if (!connection() || !connection()->canWrite()) {
         statusBar()->showMessage(tr("No receiver connection to send \"%1\" to").arg(trimmed), 5000);
         return false;
     }
-    m_connection->write(trimmed.toLatin1() + "\r\n");
+    connection()->write(trimmed.toLatin1() + "\r\n");
     if (m_history.isEmpty() || m_history.last() != trimmed)
         m_history << trimmed;
     m_historyIndex = m_history.size();

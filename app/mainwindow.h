@@ -1,6 +1,6 @@
 #pragma once
 
-#include "receiverconnection.h"
+#include "receiversession.h"
 #include "receiverstate.h"
 
 #include <QElapsedTimer>
@@ -32,7 +32,8 @@ public:
 
     MessageViewModules *module() const { return m_module; }
     QStackedWidget *stack() const { return m_stack; }
-    ReceiverConnection *connection() const { return m_connection.get(); }
+    ReceiverConnection *connection() const { return m_session.connection(); }
+    ReceiverSession *session() { return &m_session; }
     ReceiverState *receiverState() { return &m_state; }
     ReceiverDocks *receiverDocks() const { return m_docks; }
     TrafficDocks *trafficDocks() const { return m_trafficDocks; }
@@ -70,7 +71,7 @@ private:
     QSplitter *m_splitter = nullptr;
     QStackedWidget *m_stack = nullptr;
     MessageViewModules *m_module = nullptr;
-    std::unique_ptr<ReceiverConnection> m_connection;
+    ReceiverSession m_session;
     ReceiverState m_state;
     ReceiverDocks *m_docks = nullptr;
     LineTraffic *m_traffic = nullptr;

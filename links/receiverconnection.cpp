@@ -64,6 +64,17 @@ std::unique_ptr<ReceiverConnection> ReceiverConnection::fromAddress(const QStrin
         }
         return std::make_unique<TcpConnection>(rest.left(portColon), quint16(port));
     }
+    if (kind == QLatin1String("gpsd")) {
+        const int portColon = rest.lastIndexOf(QLatin1Char(':'));
+        bool ok = true;
+        const uint port = portColon < 0 ? GpsdConnection::kDefaultPort : rest.mid(portColon + 1).toUInt(&ok);
+        const QString host = portColon < 0 ? rest : rest.left(portColon);
+        if (host.isEmpty() || !ok || port == 0 || port > 65535) {
+            *error = QObject::tr("Expected gpsd:HOST[:PORT], for example gpsd:localhost or gpsd:localhost:2947");
+            return nullptr;
+        }
+        return std::make_unique<GpsdConnection>(host, quint16(port));
+    }
     if (kind == QLatin1String("file")) {
         const int at = rest.lastIndexOf(QLatin1Char('@'));
         bool ok = true;
@@ -80,7 +91,7 @@ std::unique_ptr<ReceiverConnection> ReceiverConnection::fromAddress(const QStrin
         }
         return std::make_unique<FileReplayConnection>(path, rate);
     }
-    *error = QObject::tr("Unknown connection \"%1\": use serial:, tcp:, file: or stdin").arg(address);
+    *error = QObject::tr("Unknown connection \"%1\": use serial:, tcp:, gpsd:, file: or stdin").arg(address);
     return nullptr;
 }
 
@@ -163,17 +174,23 @@ bool SerialConnection::canWrite() const
 // --- TCP ------------------------------------------------------------------
 
 TcpConnection::TcpConnection(QString host, quint16 port)
-    : ReceiverConnection(QStringLiteral("%1:%2").arg(host).arg(port))
+    : TcpConnection(host, port, QStringLiteral("%1:%2").arg(host).arg(port))
+{
+}
+
+TcpConnection::TcpConnection(QString host, quint16 port, QString descriptionText)
+    : ReceiverConnection(std::move(descriptionText))
     , m_host(std::move(host))
     , m_port(port)
     , m_socket(new QTcpSocket(this))
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &TcpConnection::open);
-    connect(m_socket, &QTcpSocket::readyRead, this, [this] { emit dataReceived(m_socket->readAll()); });
+    connect(m_socket, &QTcpSocket::readyRead, this, [this] { deliver(m_socket->readAll()); });
     connect(m_socket, &QTcpSocket::connected, this, [this] {
         m_backoff.reset();
         setState(State::Open, tr("connected to %1").arg(description()));
+        greet();
     });
     connect(m_socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
         lost(error == QAbstractSocket::RemoteHostClosedError ? tr("peer closed the connection")
@@ -193,7 +210,7 @@ void TcpConnection::lost(const QString &reason)
 {
     const QByteArray rest = m_socket->readAll(); // keep whatever arrived before the loss
     if (!rest.isEmpty())
-        emit dataReceived(rest);
+        deliver(rest);
     if (!m_wanted || m_retry.isActive())
         return;
     const int delay = m_backoff.nextDelayMs();
@@ -217,6 +234,36 @@ bool TcpConnection::write(const QByteArray &bytes)
 bool TcpConnection::canWrite() const
 {
     return m_socket->state() == QAbstractSocket::ConnectedState;
+}
+
+// --- gpsd -------------------------------------------------------------------
+
+GpsdConnection::GpsdConnection(QString host, quint16 port)
+    : TcpConnection(host, port, QStringLiteral("gpsd at %1:%2").arg(host).arg(port))
+{
+}
+
+void GpsdConnection::greet()
+{
+    m_atLineStart = true;
+    m_inReport = false;
+    socket()->write(R"(?WATCH={"enable":true,"nmea":true};)" "\n");
+}
+
+// gpsd's reports are lines starting with '{'; everything else is the receiver's.
+void GpsdConnection::deliver(const QByteArray &bytes)
+{
+    QByteArray receiverBytes;
+    receiverBytes.reserve(bytes.size());
+    for (const char c : bytes) {
+        if (m_atLineStart)
+            m_inReport = c == '{';
+        if (!m_inReport)
+            receiverBytes.append(c);
+        m_atLineStart = c == '\n';
+    }
+    if (!receiverBytes.isEmpty())
+        emit dataReceived(receiverBytes);
 }
 
 // --- file replay ------------------------------------------------------------

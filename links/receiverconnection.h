@@ -22,8 +22,9 @@ public:
 
     ~ReceiverConnection() override;
 
-    // "serial:/dev/ttyUSB0@115200", "tcp:host:port", "file:PATH[@BYTES_PER_SECOND]" or
-    // "stdin". Returns null and sets error for an address it cannot understand.
+    // "serial:/dev/ttyUSB0@115200", "tcp:host:port", "gpsd:host[:port]",
+    // "file:PATH[@BYTES_PER_SECOND]" or "stdin". Returns null and sets error for an
+    // address it cannot understand.
     static std::unique_ptr<ReceiverConnection> fromAddress(const QString &address, QString *error);
 
     virtual void open() = 0;
@@ -96,6 +97,14 @@ public:
     bool write(const QByteArray &bytes) override;
     bool canWrite() const override;
 
+protected:
+    TcpConnection(QString host, quint16 port, QString descriptionText);
+    // What a server speaking its own protocol says first, and what of its bytes are
+    // the receiver's.
+    virtual void greet() {}
+    virtual void deliver(const QByteArray &bytes) { emit dataReceived(bytes); }
+    QTcpSocket *socket() const { return m_socket; }
+
 private:
     void lost(const QString &reason);
     QString m_host;
@@ -104,6 +113,26 @@ private:
     QTimer m_retry;
     Backoff m_backoff;
     bool m_wanted = false;
+};
+
+// A receiver that gpsd owns: gpsd is asked to pass on its NMEA as it arrives, and its
+// own JSON reports are left out, so the module sees only the receiver's sentences.
+class GpsdConnection : public TcpConnection
+{
+    Q_OBJECT
+public:
+    static constexpr quint16 kDefaultPort = 2947;
+    GpsdConnection(QString host, quint16 port);
+    // gpsd takes no bytes for the receiver on its watch stream.
+    bool canWrite() const override { return false; }
+
+protected:
+    void greet() override;
+    void deliver(const QByteArray &bytes) override;
+
+private:
+    bool m_atLineStart = true;
+    bool m_inReport = false;
 };
 
 class FileReplayConnection : public ReceiverConnection

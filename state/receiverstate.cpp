@@ -485,6 +485,11 @@ const FixInfo &ReceiverState::fix() const
     return d->fix();
 }
 
+QByteArray ReceiverState::latestGga() const
+{
+    return d->latestGga();
+}
+
 QVector<SatelliteInfo> ReceiverState::satellites() const
 {
     d->settle();

@@ -46,6 +46,8 @@ public:
     static constexpr int notifyIntervalMs = 250;
 
     const FixInfo &fix() const;
+    // The last intact GGA sentence as the receiver sent it (without "\r\n"), or empty.
+    QByteArray latestGga() const;
     // Live satellites (stale ones removed), by system and number.
     QVector<SatelliteInfo> satellites() const;
     // Everything at once; the statistics are computed here, so call it when drawing.

@@ -43,6 +43,7 @@ public:
 
     qint64 now() const;
     const FixInfo &fix() const { return m_fix; }
+    const QByteArray &latestGga() const { return m_latestGga; }
     QVector<SatelliteInfo> satellites() const;
     ReceiverSnapshot snapshot() const;
     quint64 linesUsed() const { return m_linesUsed; }
@@ -149,5 +150,6 @@ private:
     // newest one held back since, with its kind.
     qint64 m_pacedReadMs = -1000000; // long before the start: the first one is read
     QByteArray m_heldBack;
+    QByteArray m_latestGga;
     const LineKind *m_heldBackKind = nullptr;
 };

@@ -244,6 +244,9 @@ bool ReceiverStateData::take(const LineKind &kind, const QString &line, bool set
         ++m_usedReport;
     splitFields(body, m_fields);
     (this->*kind.read)(LineFields(m_fields));
+    // An NTRIP caster choosing a base for us wants the receiver's own GGA.
+    if (kind.read == &ReceiverStateData::readGga)
+        m_latestGga = line.toLatin1();
     ++m_linesUsed;
     return true;
 }

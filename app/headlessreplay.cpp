@@ -5,19 +5,28 @@
 #include "messageviewmodules.h"
 #include "receiverdocks.h"
 #include "trafficdocks.h"
+#include "receiversession.h"
 #include "receiverstate.h"
 #include "statereport.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QSocketNotifier>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QWidget>
+
+#include <csignal>
+#include <cstdio>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
@@ -64,6 +73,68 @@ void printUnpagedKindsAndDamage(const LineTraffic &traffic, QTextStream &out)
         << " bytes\n";
 }
 
+void printSummary(MessageViewModules &module, const LineTraffic &traffic, qint64 bytes, double seconds,
+                  QTextStream &out)
+{
+    seconds = qMax(seconds, 1e-9);
+    quint64 taken = 0;
+    int width = 4;
+    const auto counts = module.acceptedLineCounts();
+    for (const auto &count : counts)
+        width = qMax(width, count.first.size());
+    out << qSetFieldWidth(width) << Qt::left << "page" << qSetFieldWidth(0) << "  lines\n";
+    for (const auto &count : counts) {
+        out << qSetFieldWidth(width) << Qt::left << count.first << qSetFieldWidth(0) << "  " << count.second << '\n';
+        taken += count.second;
+    }
+    out << "total lines: " << module.lineCount() << " (taken " << taken << ", refused "
+        << module.lineCount() - taken << ")\n";
+    printUnpagedKindsAndDamage(traffic, out);
+    out << "bytes: " << bytes << "  seconds: " << QString::number(seconds, 'f', 3)
+        << "  MB/s: " << QString::number(bytes / seconds / 1e6, 'f', 1) << "  peak RSS: " << peakRssText() << '\n';
+    out.flush();
+}
+
+// SIGINT and SIGTERM end a headless run's event loop, so it still prints its summary
+// and report. The handler only writes a byte; the loop reads it.
+class SignalQuitter
+{
+public:
+    explicit SignalQuitter(QEventLoop *loop)
+    {
+        if (::socketpair(AF_UNIX, SOCK_STREAM, 0, s_fds) != 0)
+            return;
+        m_notifier = std::make_unique<QSocketNotifier>(s_fds[1], QSocketNotifier::Read);
+        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, loop, &QEventLoop::quit);
+        struct sigaction action = {};
+        action.sa_handler = [](int) {
+            const char byte = 1;
+            [[maybe_unused]] const ssize_t written = ::write(s_fds[0], &byte, 1);
+        };
+        sigemptyset(&action.sa_mask);
+        ::sigaction(SIGINT, &action, &m_oldInt);
+        ::sigaction(SIGTERM, &action, &m_oldTerm);
+    }
+    ~SignalQuitter()
+    {
+        if (!m_notifier)
+            return;
+        ::sigaction(SIGINT, &m_oldInt, nullptr);
+        ::sigaction(SIGTERM, &m_oldTerm, nullptr);
+        m_notifier.reset();
+        ::close(s_fds[0]);
+        ::close(s_fds[1]);
+    }
+    SignalQuitter(const SignalQuitter &) = delete;
+    SignalQuitter &operator=(const SignalQuitter &) = delete;
+
+private:
+    static inline int s_fds[2] = {-1, -1};
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    struct sigaction m_oldInt = {};
+    struct sigaction m_oldTerm = {};
+};
+
 } // namespace
 
 bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, const QString &path, QString *error)
@@ -89,25 +160,47 @@ int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, LineTraf
     QElapsedTimer timer;
     timer.start();
     const qint64 bytes = feedAll(input, module, state, traffic);
-    const double seconds = qMax(timer.nsecsElapsed() / 1e9, 1e-9);
-
-    quint64 taken = 0;
-    int width = 4;
-    const auto counts = module.acceptedLineCounts();
-    for (const auto &count : counts)
-        width = qMax(width, count.first.size());
-    out << qSetFieldWidth(width) << Qt::left << "page" << qSetFieldWidth(0) << "  lines\n";
-    for (const auto &count : counts) {
-        out << qSetFieldWidth(width) << Qt::left << count.first << qSetFieldWidth(0) << "  " << count.second << '\n';
-        taken += count.second;
-    }
-    out << "total lines: " << module.lineCount() << " (taken " << taken << ", refused "
-        << module.lineCount() - taken << ")\n";
-    printUnpagedKindsAndDamage(traffic, out);
-    out << "bytes: " << bytes << "  seconds: " << QString::number(seconds, 'f', 3)
-        << "  MB/s: " << QString::number(bytes / seconds / 1e6, 'f', 1) << "  peak RSS: " << peakRssText() << '\n';
-    out.flush();
+    printSummary(module, traffic, bytes, timer.nsecsElapsed() / 1e9, out);
     return 0;
+}
+
+int runHeadlessLive(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, ReceiverSession &session,
+                    std::unique_ptr<ReceiverConnection> connection, int durationSeconds, QTextStream &out)
+{
+    QEventLoop loop;
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    QObject::connect(&deadline, &QTimer::timeout, &loop, &QEventLoop::quit);
+    if (durationSeconds > 0)
+        deadline.start(durationSeconds * 1000);
+    const SignalQuitter quitter(&loop);
+    qint64 bytes = 0;
+    int status = 0;
+    QObject::connect(&session, &ReceiverSession::dataReceived, &loop, [&](const QByteArray &chunk) {
+        bytes += chunk.size();
+        state.feed(chunk);
+        module.onUpdateBuffer(chunk);
+    });
+    QObject::connect(&session, &ReceiverSession::connectionStateChanged, &loop,
+                     [&](ReceiverConnection::State linkState, const QString &text) {
+                         std::fprintf(stderr, "msgview: %s\n", qPrintable(text));
+                         if (linkState == ReceiverConnection::State::Failed)
+                             status = 1;
+                         if (linkState == ReceiverConnection::State::Finished
+                             || linkState == ReceiverConnection::State::Failed)
+                             loop.quit();
+                     });
+    QObject::connect(&session.server(), &RawByteServer::message, &loop,
+                     [](const QString &text) { std::fprintf(stderr, "msgview: %s\n", qPrintable(text)); });
+    QElapsedTimer timer;
+    timer.start();
+    session.open(std::move(connection));
+    if (session.connection()->state() != ReceiverConnection::State::Failed)
+        loop.exec();
+    session.close();
+    traffic.finish();
+    printSummary(module, traffic, bytes, timer.nsecsElapsed() / 1e9, out);
+    return status;
 }
 
 bool writePicture(QWidget &widget, const QString &directory, const QString &name, QTextStream &out)

@@ -3,17 +3,27 @@
 #include <QIODevice>
 #include <QString>
 #include <QTextStream>
+#include <memory>
 
 class MessageViewModules;
 class QWidget;
 class QStackedWidget;
 class LineTraffic;
 class ReceiverState;
+class ReceiverSession;
+class ReceiverConnection;
 
 // Feeds a whole input to a module (and the receiver state) as fast as possible and
 // prints what each page took, the kinds no page took and the damage.
 int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QIODevice &input,
                       QTextStream &out);
+
+// Reads a live link through the session (which may also serve its bytes and carry
+// corrections) until durationSeconds have passed (0: until the link ends or SIGINT or
+// SIGTERM arrives), saying on standard error how the link fares; then prints the same
+// summary. 1 when the link failed for good.
+int runHeadlessLive(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, ReceiverSession &session,
+                    std::unique_ptr<ReceiverConnection> connection, int durationSeconds, QTextStream &out);
 
 // Replays the input with every page of the mode visible at once, then writes one PNG
 // per page into directory, named by its tree label, and one of each receiver view

@@ -2,6 +2,7 @@
 #include "linetraffic.h"
 #include "mainwindow.h"
 #include "messageviewmodules.h"
+#include "receiversession.h"
 #include "receiverstate.h"
 
 #include <QApplication>
@@ -65,7 +66,8 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Receiver message console: one live page per message kind.\n\n"
-        "Connections: --connect serial:/dev/ttyUSB0@115200 | tcp:HOST:PORT | file:PATH[@BYTES_PER_SECOND] | stdin"));
+        "Connections: --connect serial:/dev/ttyUSB0@115200 | tcp:HOST:PORT | gpsd:HOST[:PORT] | "
+        "file:PATH[@BYTES_PER_SECOND] | stdin"));
     const QCommandLineOption helpOption = parser.addHelpOption();
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption connectOption(QStringLiteral("connect"), QStringLiteral("Connect to a receiver at ADDRESS."),
@@ -96,8 +98,18 @@ int main(int argc, char **argv)
         QStringLiteral("Without a window: after the input ends, write the receiver state (fix, satellites, statistics) "
                        "as JSON to FILE ('-': standard output)."),
         QStringLiteral("FILE"));
+    const QCommandLineOption durationOption(
+        QStringLiteral("duration"),
+        QStringLiteral("Without a window, on a live link (--connect): stop after SECONDS and print the summary "
+                       "(default: run until the link ends or the program is interrupted)."),
+        QStringLiteral("SECONDS"));
+    const QCommandLineOption serveOption(
+        QStringLiteral("serve"),
+        QStringLiteral("Re-serve the receiver's raw bytes to TCP clients on [ADDRESS:]PORT (loopback unless an "
+                       "address is given; 0.0.0.0 for every interface)."),
+        QStringLiteral("[ADDRESS:]PORT"));
     parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, demoOption,
-                       headlessOption, snapshotOption, reportOption});
+                       headlessOption, snapshotOption, reportOption, durationOption, serveOption});
 
     // Help and version are answered before a widget application looks for a display,
     // and headless runs choose the offscreen platform before it does. Qt's own options
@@ -143,14 +155,36 @@ int main(int argc, char **argv)
     if (!modeOk)
         return fail(QStringLiteral("--mode needs a number"));
     const QString language = languageText.toUpper();
+    int durationSeconds = 0;
+    if (parser.isSet(durationOption)) {
+        bool ok = false;
+        durationSeconds = parser.value(durationOption).toInt(&ok);
+        if (!ok || durationSeconds <= 0)
+            return fail(QStringLiteral("--duration needs a whole number of seconds above 0"));
+    }
+    std::unique_ptr<ReceiverConnection> connection;
+    if (parser.isSet(connectOption)) {
+        QString error;
+        connection = ReceiverConnection::fromAddress(parser.value(connectOption), &error);
+        if (!connection)
+            return fail(error);
+    }
+    // What the session carries besides the receiver's bytes; false after saying why not.
+    const auto prepareSession = [&](ReceiverSession &session) {
+        if (parser.isSet(serveOption)) {
+            QHostAddress address;
+            quint16 port = 0;
+            QString error;
+            if (!RawByteServer::parseListenAddress(parser.value(serveOption), &address, &port, &error)
+                || !session.server().listen(address, port, &error))
+                return fail(error) == 0;
+            std::fprintf(stderr, "msgview: serving the receiver's bytes on %s\n",
+                         qPrintable(session.server().listenText()));
+        }
+        return true;
+    };
 
     if (runsHeadless()) {
-        QFile input;
-        const QString path = parser.isSet(replayOption) ? parser.value(replayOption)
-            : parser.isSet(demoOption)                  ? QString::fromLatin1(kDemoSession)
-                                                        : QStringLiteral("-");
-        if (!openInput(input, path))
-            return fail(QStringLiteral("cannot open %1: %2").arg(path, input.errorString()));
         QStackedWidget stack;
         MessageViewModules module(&stack, language);
         module.addItemToTree(mode);
@@ -161,10 +195,26 @@ int main(int argc, char **argv)
         const QString reportPath = parser.value(reportOption);
         // The report on standard output leaves the summary to standard error.
         QTextStream out(reportPath == QLatin1String("-") ? stderr : stdout);
-        const int status = parser.isSet(snapshotOption)
-            ? runSnapshot(module, state, traffic, stack, input, QFileInfo(parser.value(snapshotOption)).absoluteFilePath(),
-                          out)
-            : runHeadlessReplay(module, state, traffic, input, out);
+        int status = 0;
+        if (connection) {
+            if (parser.isSet(snapshotOption))
+                return fail(QStringLiteral("--snapshot replays a recording; it does not read a live link"));
+            ReceiverSession session;
+            if (!prepareSession(session))
+                return 1;
+            status = runHeadlessLive(module, state, traffic, session, std::move(connection), durationSeconds, out);
+        } else {
+            QFile input;
+            const QString path = parser.isSet(replayOption) ? parser.value(replayOption)
+                : parser.isSet(demoOption)                  ? QString::fromLatin1(kDemoSession)
+                                                            : QStringLiteral("-");
+            if (!openInput(input, path))
+                return fail(QStringLiteral("cannot open %1: %2").arg(path, input.errorString()));
+            status = parser.isSet(snapshotOption)
+                ? runSnapshot(module, state, traffic, stack, input,
+                              QFileInfo(parser.value(snapshotOption)).absoluteFilePath(), out)
+                : runHeadlessReplay(module, state, traffic, input, out);
+        }
         QString error;
         if (!reportPath.isEmpty() && !writeStateReport(state, traffic, reportPath, &error))
             return fail(error);
@@ -172,24 +222,22 @@ int main(int argc, char **argv)
     }
 
     MainWindow window(language, mode);
+    if (!prepareSession(*window.session()))
+        return 1;
     window.show();
     if (parser.isSet(recordOption))
         window.startRecording(parser.value(recordOption));
-    QString address;
-    if (parser.isSet(connectOption))
-        address = parser.value(connectOption);
-    else if (parser.isSet(replayOption))
-        address = parser.value(replayOption) == QLatin1String("-")
+    if (!connection) {
+        const QString address = !parser.isSet(replayOption) ? QStringLiteral("file:%1@%2").arg(
+                                    QString::fromLatin1(kDemoSession), parser.value(rateOption))
+            : parser.value(replayOption) == QLatin1String("-")
             ? QStringLiteral("stdin")
             : QStringLiteral("file:%1@%2").arg(parser.value(replayOption), parser.value(rateOption));
-    else
-        address = QStringLiteral("file:%1@%2").arg(QString::fromLatin1(kDemoSession), parser.value(rateOption));
-    if (!address.isEmpty()) {
         QString error;
-        auto connection = ReceiverConnection::fromAddress(address, &error);
+        connection = ReceiverConnection::fromAddress(address, &error);
         if (!connection)
             return fail(error);
-        window.connectTo(std::move(connection));
     }
+    window.connectTo(std::move(connection));
     return app.exec();
 }

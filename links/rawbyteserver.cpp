@@ -114,10 +114,12 @@ void RawByteServer::send(const QByteArray &bytes)
     // Iterating a copy: dropping a client changes the list.
     const QList<QTcpSocket *> clients = m_clients;
     for (QTcpSocket *client : clients) {
-        if (client->bytesToWrite() + bytes.size() > m_backlogLimit) {
+        // What is left after handing the kernel all it takes is what the client is behind.
+        if (client->bytesToWrite() > m_backlogLimit) {
             forget(client, tr("dropped: it fell %1 KiB behind").arg(client->bytesToWrite() / 1024));
             continue;
         }
         client->write(bytes);
+        client->flush();
     }
 }

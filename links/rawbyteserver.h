@@ -11,7 +11,8 @@ class QTcpSocket;
 // Re-serves the receiver's raw bytes to any number of TCP clients, so other programs
 // can share one receiver. Each client gets the stream from the moment it connects; what
 // clients send is read and dropped. A client that falls more than the backlog limit
-// behind is dropped, so a slow reader never slows the console or grows its memory.
+// behind (beyond what the kernel buffers) is dropped, so a slow reader never slows the
+// console, and what is held for it stays under the limit plus one chunk.
 class RawByteServer : public QObject
 {
     Q_OBJECT

@@ -136,7 +136,12 @@ void MainWindow::buildMenus()
 {
     QMenu *connectionMenu = menuBar()->addMenu(tr("&Connection"));
     connectionMenu->addAction(tr("&Serial port..."), this, &MainWindow::chooseSerialPort);
-    connectionMenu->addAction(tr("&TCP..."), this, &MainWindow::chooseTcpPeer);
+    connectionMenu->addAction(tr("&TCP..."), this, [this] {
+        chooseNetworkPeer(QStringLiteral("tcp"), tr("TCP"), tr("Receiver or stream server (host:port)"));
+    });
+    connectionMenu->addAction(tr("&gpsd..."), this, [this] {
+        chooseNetworkPeer(QStringLiteral("gpsd"), tr("gpsd"), tr("A receiver that gpsd owns (host or host:port)"));
+    });
     connectionMenu->addAction(tr("&Replay file..."), this, &MainWindow::chooseReplayFile);
     connectionMenu->addAction(tr("Standard &input"), this, [this] { connectTo(std::make_unique<StdinConnection>()); });
     connectionMenu->addSeparator();
@@ -161,6 +166,13 @@ void MainWindow::buildMenus()
             startRecording();
         else
             stopRecording();
+    });
+    m_serveAction = connectionMenu->addAction(tr("Serve raw bytes to other programs..."));
+    m_serveAction->setCheckable(true);
+    connect(m_serveAction, &QAction::triggered, this, &MainWindow::toggleServing);
+    connect(&m_session.server(), &RawByteServer::listeningChanged, m_serveAction, &QAction::setChecked);
+    connect(&m_session.server(), &RawByteServer::message, this, [this](const QString &text) {
+        statusBar()->showMessage(text, 5000);
     });
     connectionMenu->addSeparator();
     connectionMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
@@ -368,22 +380,50 @@ void MainWindow::chooseSerialPort()
     connectTo(std::make_unique<SerialConnection>(device, baud->currentText().toInt()));
 }
 
-void MainWindow::chooseTcpPeer()
+// A peer typed as host:port, remembered under its kind ("tcp", "gpsd").
+void MainWindow::chooseNetworkPeer(const QString &kind, const QString &title, const QString &label)
 {
     QSettings settings;
+    const QString key = kind + QStringLiteral("Peer");
     bool ok = false;
-    const QString address = QInputDialog::getText(this, tr("TCP"), tr("Receiver or stream server (host:port)"),
-                                                  QLineEdit::Normal, settings.value(QStringLiteral("tcpPeer")).toString(), &ok);
+    const QString address = QInputDialog::getText(this, title, label, QLineEdit::Normal, settings.value(key).toString(), &ok);
     if (!ok)
         return;
     QString error;
-    auto connection = ReceiverConnection::fromAddress(QStringLiteral("tcp:") + address.trimmed(), &error);
+    auto connection = ReceiverConnection::fromAddress(kind + QLatin1Char(':') + address.trimmed(), &error);
     if (!connection) {
         statusBar()->showMessage(error, 8000);
         return;
     }
-    settings.setValue(QStringLiteral("tcpPeer"), address.trimmed());
+    settings.setValue(key, address.trimmed());
     connectTo(std::move(connection));
+}
+
+void MainWindow::toggleServing(bool on)
+{
+    RawByteServer &server = m_session.server();
+    if (!on) {
+        server.close();
+        statusBar()->showMessage(tr("No longer serving the receiver's bytes"), 5000);
+        return;
+    }
+    QSettings settings;
+    bool ok = false;
+    const QString text = QInputDialog::getText(
+        this, tr("Serve the receiver"),
+        tr("Serve the receiver's raw bytes to other programs on [address:]port\n(loopback unless an address is given)"),
+        QLineEdit::Normal, settings.value(QStringLiteral("servePort"), QStringLiteral("5002")).toString(), &ok);
+    QHostAddress address;
+    quint16 port = 0;
+    QString error;
+    if (ok && RawByteServer::parseListenAddress(text.trimmed(), &address, &port, &error)
+        && server.listen(address, port, &error)) {
+        settings.setValue(QStringLiteral("servePort"), text.trimmed());
+        statusBar()->showMessage(tr("Serving the receiver's bytes on %1").arg(server.listenText()), 5000);
+    } else if (ok) {
+        statusBar()->showMessage(error, 8000);
+    }
+    m_serveAction->setChecked(server.isListening()); // a cancelled dialog unticks it again
 }
 
 void MainWindow::chooseReplayFile()

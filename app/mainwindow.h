@@ -61,7 +61,8 @@ private:
     void onConnectionState(ReceiverConnection::State state, const QString &text);
     void updateStatus();
     void chooseSerialPort();
-    void chooseTcpPeer();
+    void chooseNetworkPeer(const QString &kind, const QString &title, const QString &label);
+    void toggleServing(bool on);
     void chooseReplayFile();
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -81,6 +82,7 @@ private:
     QActionGroup *m_languageGroup = nullptr;
     QAction *m_pauseAction = nullptr;
     QAction *m_recordAction = nullptr;
+    QAction *m_serveAction = nullptr;
     QLineEdit *m_commandLine = nullptr;
     QStringList m_history;
     int m_historyIndex = 0;

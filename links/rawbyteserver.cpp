@@ -50,8 +50,10 @@ bool RawByteServer::parseListenAddress(const QString &text, QHostAddress *addres
 bool RawByteServer::listen(const QHostAddress &address, quint16 port, QString *error)
 {
     close();
-    if (m_server->listen(address, port))
+    if (m_server->listen(address, port)) {
+        emit listeningChanged(true);
         return true;
+    }
     *error = tr("cannot serve on %1:%2: %3").arg(address.toString()).arg(port).arg(m_server->errorString());
     return false;
 }
@@ -65,9 +67,12 @@ void RawByteServer::close()
         client->deleteLater();
     }
     m_clients.clear();
+    const bool wasListening = m_server->isListening();
     m_server->close();
     if (hadClients)
         emit clientCountChanged(0);
+    if (wasListening)
+        emit listeningChanged(false);
 }
 
 bool RawByteServer::isListening() const

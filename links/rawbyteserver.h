@@ -39,6 +39,7 @@ signals:
     // Clients coming, going and dropped, for the status bar and the log.
     void message(const QString &text);
     void clientCountChanged(int count);
+    void listeningChanged(bool listening);
 
 private:
     void accept();

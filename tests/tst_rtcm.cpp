@@ -326,11 +326,7 @@ private slots:
         QFETCH(double, lon);
         QFETCH(double, height);
         QFETCH(double, antennaHeight);
-        CorrectionStatistics statistics;
-        QVERIFY(std::isnan(baselineMetres(statistics.snapshot(0), lat, lon, height)));
-        const QByteArray stream = frame(referencePayload(type, lat, lon, height, antennaHeight));
-        statistics.feed(stream.constData(), stream.size(), 0);
-        const CorrectionSnapshot snapshot = statistics.snapshot(0);
+        const CorrectionSnapshot snapshot = fed(frame(referencePayload(type, lat, lon, height, antennaHeight)));
         QVERIFY(snapshot.referenceValid);
         QVERIFY(qAbs(snapshot.referenceLat - lat) < 1e-8 && qAbs(snapshot.referenceLon - lon) < 1e-8);
         QVERIFY(qAbs(snapshot.referenceHeight - height) < 1e-3);
@@ -371,6 +367,7 @@ private slots:
         snapshot = statistics.snapshot(20000);
         QCOMPARE(correctionsReport(snapshot), QJsonDocument::fromJson(R"({"bytes": 0, "frames": 0, "crcFailures": 0, "messageTypes": {}, "stationId": null})").object());
         QVERIFY(!snapshot.referenceValid && snapshot.lastFrameAgeMs == -1 && snapshot.systems[0].satelliteCount == 0);
+        QVERIFY(std::isnan(baselineMetres(snapshot, 1, 2, 3)));
     }
 };
 

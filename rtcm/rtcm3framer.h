@@ -46,7 +46,8 @@ int rtcm3MessageType(const uchar *frame, int frameSize);
 template <typename OnFrame>
 void Rtcm3Framer::feed(const char *data, int size, OnFrame &&onFrame)
 {
-    m_pending.append(data, size);
+    if (size > 0) // QByteArray::append would take a negative size as "up to the first NUL"
+        m_pending.append(data, size);
     const auto *bytes = reinterpret_cast<const uchar *>(m_pending.constData());
     const int available = m_pending.size();
     int at = 0;

@@ -10,14 +10,10 @@ namespace {
 
 // A row being written; the modifiers name the ways a page's test departs from
 // its kind's.
+// with() comes first: clang will not evaluate a constant expression that calls a
+// member defined further down the class.
 struct Row : PageRoute
 {
-    constexpr Row comparing(int length) const { return with(&PageRoute::comparedLength, length); }
-    constexpr Row at(int index) const { return with(&PageRoute::offset, index); }
-    constexpr Row onlyInMode(int mode) const { return with(&PageRoute::modeFilter, mode); }
-    constexpr Row checksumAfterTaking() const { return with(&PageRoute::checksumBeforeTaking, false); }
-    constexpr Row atLeast(int length) const { return with(&PageRoute::minimumLength, length); }
-
 private:
     template <typename T>
     constexpr Row with(T PageRoute::*field, T value) const
@@ -26,6 +22,13 @@ private:
         changed.*field = value;
         return changed;
     }
+
+public:
+    constexpr Row comparing(int length) const { return with(&PageRoute::comparedLength, length); }
+    constexpr Row at(int index) const { return with(&PageRoute::offset, index); }
+    constexpr Row onlyInMode(int mode) const { return with(&PageRoute::modeFilter, mode); }
+    constexpr Row checksumAfterTaking() const { return with(&PageRoute::checksumBeforeTaking, false); }
+    constexpr Row atLeast(int length) const { return with(&PageRoute::minimumLength, length); }
 };
 
 constexpr Row makeRow(const char *label, const char *pageClass, PageCategory category, const char *header, int offset,

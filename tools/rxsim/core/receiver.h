@@ -132,6 +132,10 @@ public:
     static constexpr double kElevationMask = 5.0;
 
     Receiver(const PlatformSettings &platform, RtkCorrections rtk, quint64 seed, const QDateTime &startUtc);
+    Receiver(const PlatformSettings &platform, bool rtk, quint64 seed, const QDateTime &startUtc)
+        : Receiver(platform, rtk ? RtkCorrections::Simulated : RtkCorrections::None, seed, startUtc)
+    {
+    }
     Epoch at(qint64 elapsedMs);
     // With RtkCorrections::FromLink: whether corrections reach the receiver now.
     void setCorrectionsArriving(bool arriving) { m_correctionsArriving = arriving; }

@@ -7,29 +7,17 @@
 
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QStandardPaths>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <algorithm>
-#include <bitset>
 
 Q_DECLARE_METATYPE(Rtcm3MsmEpoch)
 
 namespace {
 
 constexpr int kGuardMs = 60000; // against a hang only
-
-// Runs a program quietly; its exit code, or -1.
-int run(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(program, arguments);
-    return process.waitForFinished(kGuardMs) && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-}
 
 // Reads `bits` bits at bit `at` of a frame's payload, MSB first.
 qint64 field(const QByteArray &frame, int at, int bits, bool isSigned = false)
@@ -40,17 +28,12 @@ qint64 field(const QByteArray &frame, int at, int bits, bool isSigned = false)
     return isSigned && bits < 64 && (v >> (bits - 1)) ? qint64(v) - (qint64(1) << bits) : qint64(v);
 }
 
-int popCount(qint64 v)
-{
-    return int(std::bitset<64>(quint64(v)).count());
-}
-
 // MSM4 of one frame: header fields, then those of one cell (in cell mask order).
 QVector<qint64> msm4Fields(const QByteArray &frame, int cell)
 {
-    const int satellites = popCount(field(frame, 73, 64));
-    const int signalCount = popCount(field(frame, 137, 32));
-    const int cells = popCount(field(frame, 169, satellites * signalCount));
+    const int satellites = qPopulationCount(quint64(field(frame, 73, 64)));
+    const int signalCount = qPopulationCount(quint64(field(frame, 137, 32)));
+    const int cells = qPopulationCount(quint64(field(frame, 169, satellites * signalCount)));
     QVector<qint64> out{field(frame, 0, 12), field(frame, 24, 30), field(frame, 54, 1), satellites, signalCount, cells};
     if (cell >= cells)
         return out;
@@ -66,16 +49,6 @@ QVector<qint64> msm4Fields(const QByteArray &frame, int cell)
         << field(frame, cellData + 37 * cells + 4 * cell, 4) << field(frame, cellData + 41 * cells + cell, 1)
         << field(frame, cellData + 42 * cells + 6 * cell, 6);
     return out;
-}
-
-Rtcm3SatelliteObservation satellite(int id, QVector<Rtcm3SignalObservation> observations)
-{
-    return Rtcm3SatelliteObservation{id, std::move(observations)};
-}
-
-Rtcm3SignalObservation signal(int id, double pseudorange, double phaseRange, double lock, double cn0)
-{
-    return Rtcm3SignalObservation{id, pseudorange, phaseRange, lock, false, cn0};
 }
 
 // The latest solution the receiver reports: GGA quality, or BESTPOS's type as the
@@ -123,9 +96,8 @@ void RxsimRtcmTest::msm4FieldsAtTheirLimits_data()
     e.moreMessagesFollow = true;
     e.system = Rtcm3System::Bds; // BDS time is 14 s behind: the previous week's end
     QTest::newRow("BDS before its week") << e << 1 << 0 << QVector<qint64>{1124, 604789000, 1, 0, 0, 0};
-    e.system = Rtcm3System::Glonass; // 18 leap seconds, 3 h ahead of UTC: Sunday 02:59:45
-    QTest::newRow("GLONASS Sunday") << e << 1 << 0 << QVector<qint64>{1084, 10785000, 1, 0, 0, 0};
-    e.gpsMilliseconds = sunday + (21 * 3600 + 19) * 1000; // UTC Sunday 21:00:01
+    e.system = Rtcm3System::Glonass; // UTC Sunday 21:00:01 (18 leap seconds), 3 h behind GLONASS
+    e.gpsMilliseconds = sunday + (21 * 3600 + 19) * 1000;
     QTest::newRow("GLONASS Monday") << e << 1 << 0 << QVector<qint64>{1084, (1 << 27) | 1000, 1, 0, 0, 0};
 
     // Ranges on the 1/1024 ms grid leave nothing for the fine fields.
@@ -134,29 +106,29 @@ void RxsimRtcmTest::msm4FieldsAtTheirLimits_data()
     e.gpsMilliseconds = sunday;
     for (int id = 64; id >= 1; --id) {
         const double range = (70.0 + id / 1024.0) * ms;
-        e.satellites << satellite(id, {signal(2, range, range, 1.0, 45.0)});
+        e.satellites << Rtcm3SatelliteObservation{id, {{2, range, range, 1.0, false, 45.0}}};
     }
     QTest::newRow("64 satellites, last cell") << e << 1 << 63
                                               << QVector<qint64>{1094, 0, 0, 64, 1, 64, 70, 64, 0, 0, 5, 0, 45};
-    e.satellites.last().observations << signal(7, 70.0 * ms, kRtcm3NoRange, 0.0, 0.0);
+    e.satellites.last().observations << Rtcm3SignalObservation{7, 70.0 * ms, kRtcm3NoRange, 0.0, false, 0.0};
     QTest::newRow("65 cells: split, more follow")
         << e << 2 << 0 << QVector<qint64>{1094, 0, 1, 32, 2, 33, 70, 1, 0, 0, 5, 0, 45};
 
     // The rough range (254.990234 ms) is 70.2 m beyond the first code; the fine fields
     // reach 292.7 m (code) and 1171.1 m (phase) from it.
     const double code = 254.99 * ms;
-    e.satellites = {satellite(5, {signal(1, code, code + 1240.0, 0.031, 70.0),
-                                  signal(32, code + 290.0, code - 1102.0, 0.032, 0.0),
-                                  signal(3, code - 223.0, kRtcm3NoRange, 600.0, 1.0)})};
+    e.satellites = {Rtcm3SatelliteObservation{5, {{1, code, code + 1240.0, 0.031, false, 70.0},
+                                  {32, code + 290.0, code - 1102.0, 0.032, false, 0.0},
+                                  {3, code - 223.0, kRtcm3NoRange, 600.0, true, 1.0}}}};
     const double rough = 261110 / 1024.0;
     const auto units = [&](double metres, int bits) { return std::llround((metres / ms - rough) * (1 << bits)); };
     QTest::newRow("phase at the edge, C/N0 above 63")
         << e << 1 << 0 << QVector<qint64>{1094, 0, 0, 1, 3, 3, 254, 1014, units(code, 24), units(code + 1240.0, 29), 0, 0, 63};
     QTest::newRow("code beyond reach, no phase, long lock")
-        << e << 1 << 1 << QVector<qint64>{1094, 0, 0, 1, 3, 3, 254, 1014, -16384, -2097152, 15, 0, 1};
+        << e << 1 << 1 << QVector<qint64>{1094, 0, 0, 1, 3, 3, 254, 1014, -16384, -2097152, 15, 1, 1};
     QTest::newRow("phase beyond reach, no C/N0")
         << e << 1 << 2 << QVector<qint64>{1094, 0, 0, 1, 3, 3, 254, 1014, units(code + 290.0, 24), -2097152, 1, 0, 0};
-    e.satellites = {satellite(9, {signal(2, 255.2 * ms, 255.2 * ms, 1.0, 40.0)})};
+    e.satellites = {Rtcm3SatelliteObservation{9, {{2, 255.2 * ms, 255.2 * ms, 1.0, false, 40.0}}}};
     QTest::newRow("rough range beyond 255 ms")
         << e << 1 << 0 << QVector<qint64>{1094, 0, 0, 1, 1, 1, 255, 0, -16384, -2097152, 5, 0, 40};
 }
@@ -168,7 +140,6 @@ void RxsimRtcmTest::msm4FieldsAtTheirLimits()
     QFETCH(int, cell);
     QFETCH(QVector<qint64>, fields);
     const QVector<QByteArray> encoded = Rtcm3Encoder::msm4(epoch);
-    QCOMPARE(encoded.size(), frames);
     Rtcm3Framer framer;
     for (const QByteArray &frame : encoded)
         framer.feed(frame.constData(), frame.size(), [](const uchar *, int) {});
@@ -181,43 +152,36 @@ void RxsimRtcmTest::msm4FieldsAtTheirLimits()
 void RxsimRtcmTest::stationPositionIsBitExact()
 {
     const Rtcm3StationPosition station{4095, -2267863.9519, -5009282.0979, -13743895.3472, true, false, true, true};
-    const QByteArray frame = Rtcm3Encoder::stationPosition(station);
-    QCOMPARE(frame.size(), 3 + 19 + 3);
-    const QVector<qint64> fields{field(frame, 0, 12),        field(frame, 12, 12),        field(frame, 30, 4),
-                                 field(frame, 34, 38, true), field(frame, 74, 38, true), field(frame, 114, 38, true)};
-    QCOMPARE(fields, (QVector<qint64>{1005, 4095, 0b1011, -22678639519, -50092820979, -137438953472}));
+    const QByteArray f = Rtcm3Encoder::stationPosition(station);
+    QCOMPARE(f.size(), 3 + 19 + 3);
+    QCOMPARE((QVector<qint64>{field(f, 0, 12), field(f, 12, 12), field(f, 30, 4), field(f, 34, 38, true),
+                              field(f, 74, 38, true), field(f, 114, 38, true)}),
+             (QVector<qint64>{1005, 4095, 0b1011, -22678639519, -50092820979, -137438953472}));
 }
 
 void RxsimRtcmTest::convbinDecodesTheBaseStation_data()
 {
     QTest::addColumn<QVector<double>>("place");
     QTest::addColumn<QDateTime>("start");
-    QTest::newRow("default place") << QVector<double>{30.5285, 114.3578, 24.0}
-                                   << QDateTime(QDate(2024, 5, 20), QTime(2, 0), Qt::UTC);
-    QTest::newRow("ECEF all negative, GPS week ends") << QVector<double>{-40.0, -120.0, 100.0}
-                                                      << QDateTime(QDate(2024, 5, 18), QTime(23, 59, 40), Qt::UTC);
-    QTest::newRow("GLONASS day ends") << QVector<double>{51.5, -0.1, 45.0}
-                                      << QDateTime(QDate(2024, 5, 20), QTime(20, 59, 57), Qt::UTC);
+    QTest::newRow("default place") << QVector<double>{30.5285, 114.3578, 24.0} << QDateTime({2024, 5, 20}, {2, 0}, Qt::UTC);
+    QTest::newRow("ECEF all negative, GPS week ends")
+        << QVector<double>{-40.0, -120.0, 100.0} << QDateTime({2024, 5, 18}, {23, 59, 40}, Qt::UTC);
+    QTest::newRow("GLONASS day ends") << QVector<double>{51.5, -0.1, 45.0} << QDateTime({2024, 5, 20}, {20, 59, 57}, Qt::UTC);
 }
 
 void RxsimRtcmTest::convbinDecodesTheBaseStation()
 {
     QFETCH(QVector<double>, place);
     QFETCH(QDateTime, start);
-    const QString convbin = QStandardPaths::findExecutable(QStringLiteral("convbin"));
-    if (convbin.isEmpty())
-        QSKIP("RTKLIB's convbin is not installed");
     QTemporaryDir dir;
     const QString rtcm = dir.filePath(QStringLiteral("base.rtcm")), obs = dir.filePath(QStringLiteral("base.obs"));
     constexpr int kSeconds = 5;
-    QCOMPARE(run(QStringLiteral(RXSIM_EXECUTABLE),
-                               {"--rtcm", "--duration", QString::number(kSeconds), "--as-fast-as-possible", "--output",
-                                rtcm, "--lat", QString::number(place[0], 'f', 7), "--lon",
-                                QString::number(place[1], 'f', 7), "--height", QString::number(place[2], 'f', 3), "--start", start.toString(Qt::ISODate)}),
+    QCOMPARE(QProcess::execute(QStringLiteral(RXSIM_EXECUTABLE),
+                 {"--rtcm", "--duration", QString::number(kSeconds), "--as-fast-as-possible", "--output", rtcm, "--lat",
+                  QString::number(place[0], 'f', 7), "--lon", QString::number(place[1], 'f', 7), "--height",
+                  QString::number(place[2], 'f', 3), "--start", start.toString(Qt::ISODate)}),
              0);
-    QCOMPARE(run(convbin, {"-r", "rtcm3", "-tr", start.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")),
-                                         "-o", obs, rtcm}),
-             0);
+    QCOMPARE(QProcess::execute(QStringLiteral("convbin"), {"-r", "rtcm3", "-tr", start.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")), "-o", obs, rtcm}), 0);
     QFile file(obs);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().split('\n');
@@ -225,12 +189,12 @@ void RxsimRtcmTest::convbinDecodesTheBaseStation()
     double base[3];
     GeographicLib::Geocentric::WGS84().Forward(place[0], place[1], place[2] + rxsim::geoidUndulation(place[0], place[1]),
                                                base[0], base[1], base[2]);
-    const rxsim::Vec3 antenna{base[0], base[1], base[2]};
     const QByteArray approx = *std::find_if(lines.begin(), lines.end(),
                                             [](const QByteArray &l) { return l.contains("APPROX POSITION XYZ"); });
     for (int i = 0; i < 3; ++i)
         QVERIFY2(std::fabs(approx.mid(14 * i, 14).toDouble() - base[i]) < 0.01, approx.constData());
 
+    const rxsim::Vec3 antenna{base[0], base[1], base[2]};
     const double lat = place[0] * rxsim::kDegree, lon = place[1] * rxsim::kDegree;
     const rxsim::Vec3 up{std::cos(lat) * std::cos(lon), std::cos(lat) * std::sin(lon), std::sin(lat)};
     const QDateTime gpsEpoch(QDate(1980, 1, 6), QTime(0, 0), Qt::UTC);
@@ -241,31 +205,25 @@ void RxsimRtcmTest::convbinDecodesTheBaseStation()
             continue;
         ++epochs;
         const QList<QByteArray> t = lines[i].simplified().split(' ');
+        QMap<QByteArray, double> pseudoranges; // first code of each satellite
+        for (int k = i + 1; k <= i + t[8].toInt(); ++k)
+            pseudoranges.insert(lines[k].left(3), lines[k].mid(3, 14).toDouble());
         const QDateTime time(QDate(t[1].toInt(), t[2].toInt(), t[3].toInt()), QTime(t[4].toInt(), t[5].toInt()), Qt::UTC);
         const double skyTime = rxsim::Sky::skyTime(gpsEpoch.msecsTo(time.addMSecs(qint64(t[6].toDouble() * 1000))));
-        QStringList expected, decoded;
+        QList<QByteArray> expected;
         QVector<double> clockTerms;
         for (const rxsim::Satellite &s : sky.satellites()) {
             const rxsim::Vec3 los = s.positionAt(skyTime) - antenna;
-            const char *letter = s.system == rxsim::GnssSystem::Gps ? "G" : s.system == rxsim::GnssSystem::Glonass ? "R"
-                : s.system == rxsim::GnssSystem::Galileo ? "E" : s.system == rxsim::GnssSystem::Bds ? "C" : nullptr;
-            if (!letter || los.dot(up) / los.norm() < std::sin(5.0 * rxsim::kDegree))
+            const char letter = "GR.EC."[int(s.system)];
+            if (letter == '.' || los.dot(up) / los.norm() < std::sin(5.0 * rxsim::kDegree))
                 continue;
-            const QString name = QStringLiteral("%1%2").arg(QLatin1String(letter)).arg(s.prn, 2, 10, QLatin1Char('0'));
-            expected << name;
-            for (int k = i + 1; k <= i + t[8].toInt(); ++k) {
-                if (lines[k].startsWith(name.toLatin1()))
-                    clockTerms << lines[k].mid(3, 14).toDouble() - los.norm();
-            }
+            expected << letter + QByteArray::number(s.prn).rightJustified(2, '0');
+            clockTerms << pseudoranges.value(expected.last()) - los.norm();
         }
-        for (int k = i + 1; k <= i + t[8].toInt(); ++k)
-            decoded << QString::fromLatin1(lines[k].left(3));
         std::sort(expected.begin(), expected.end());
-        std::sort(decoded.begin(), decoded.end());
-        QCOMPARE(decoded, expected);
+        QCOMPARE(pseudoranges.keys(), expected);
         // One clock for all satellites, of a sensible size.
         std::sort(clockTerms.begin(), clockTerms.end());
-        QCOMPARE(clockTerms.size(), expected.size());
         QVERIFY2(clockTerms.last() - clockTerms.first() < 3.0 && std::fabs(clockTerms.first()) < 1000.0,
                  qPrintable(QStringLiteral("%1 .. %2 m").arg(clockTerms.first()).arg(clockTerms.last())));
     }
@@ -279,16 +237,15 @@ void RxsimRtcmTest::fixedOnlyWhileValidFramesArrive()
     rxsim.start(QStringLiteral(RXSIM_EXECUTABLE), {"--mode", "1", "--needs-corrections", "--listen", "0", "--duration", "60"});
     while (!rxsim.canReadLine() && rxsim.waitForReadyRead(kGuardMs)) {
     }
-    const quint16 port = quint16(rxsim.readLine().split(':').last().trimmed().toUInt());
     QTcpSocket socket;
-    socket.connectToHost(QHostAddress::LocalHost, port);
+    socket.connectToHost(QHostAddress::LocalHost, quint16(rxsim.readLine().split(':').last().trimmed().toUInt()));
     QVERIFY(socket.waitForConnected(kGuardMs));
 
-    // A base station's second; it also flushes a false frame begun in the noise.
+    // A base station's second; it also completes a false frame begun in the noise.
     rxsim::BaseStation base(rxsim::PlatformSettings{}, 1, QDateTime(QDate(2024, 5, 20), QTime(2, 0), Qt::UTC));
     const QByteArray valid = base.framesAt(0);
     QByteArray brokenCrc = valid.left(25), brokenPayload = valid.left(25);
-    brokenCrc[brokenCrc.size() - 1] = char(brokenCrc.at(brokenCrc.size() - 1) ^ 0x01);
+    brokenCrc[24] = char(brokenCrc.at(24) ^ 0x01);
     brokenPayload[6] = char(brokenPayload.at(6) ^ 0x10);
     QRandomGenerator random(7);
     QElapsedTimer clock;
@@ -300,15 +257,18 @@ void RxsimRtcmTest::fixedOnlyWhileValidFramesArrive()
         socket.write(brokenCrc + noise + brokenPayload);
         QCOMPARE(nextSolution(socket), 1);
     }
-    // Valid frames once a second: fixed soon, and as long as they come.
+    // Valid frames once a second for longer than one frame holds: fixed soon, then
+    // for as long as they come.
     qint64 lastSent = -1000;
     int solution = 0;
-    while (solution != 4 && clock.elapsed() < 9000) {
+    while (clock.elapsed() < 10000) {
         if (clock.elapsed() - lastSent >= 1000) {
             socket.write(valid);
             lastSent = clock.elapsed();
         }
+        const int previous = solution;
         solution = nextSolution(socket);
+        QVERIFY(previous != 4 || solution == 4);
     }
     QCOMPARE(solution, 4);
     // Silence: single again about 5 s after the last frame.

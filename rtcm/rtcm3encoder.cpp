@@ -161,7 +161,7 @@ QByteArray msm4Block(const Rtcm3MsmEpoch &epoch, const MsmBlock &block, bool mor
     w.putUnsigned(quint64(epoch.stationId), 12);
     w.putUnsigned(Rtcm3Encoder::msmEpochTime(epoch.system, epoch.gpsMilliseconds, epoch.leapSeconds), 30);
     w.putBit(moreFollow);
-    w.putUnsigned(0, 3);  // issue of data station
+    w.putUnsigned(0, 3);  // station data set counter: one set only
     w.putUnsigned(0, 7);  // reserved
     w.putUnsigned(0, 2);  // clock steering: none
     w.putUnsigned(0, 2);  // external clock: none

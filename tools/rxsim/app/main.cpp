@@ -42,6 +42,17 @@ Examples:
   rxsim --listen 4001                          serve clients on 127.0.0.1:4001 in real time
   rxsim --serial /dev/pts/5 --baud 115200      feed a pseudo-terminal at 115200 baud
   rxsim --corrupt 0.1 --split 7 --duration 30  a noisy link: 10 % bad checksums, bytes in small pieces
+  rxsim --rtcm --listen 2101                   an RTK base station at the loop's centre sending RTCM 3
+  rxsim --needs-corrections --listen 4001      RTK fixed only while clients send RTCM 3 corrections
+
+RTK: by default the receiver has corrections all the time (fixed, with a float
+spell every four minutes). With --needs-corrections it reads what comes back over
+--listen (from every client) or --serial, and its solution (GGA quality, the
+solution types of the logs) is RTK fixed only while valid RTCM 3 frames arrive;
+5 s without one (on the simulated clock, which in real time is the wall clock)
+and it falls back to single. --rtcm turns the simulator into the base station:
+1005 and MSM4 of GPS, GLONASS, Galileo and BDS every second, for the satellites
+above 5 degrees at --lat/--lon/--height, instead of the mode's messages.
 
 The same options and seed always give the same bytes.)";
 
@@ -259,10 +270,18 @@ int main(int argc, char **argv)
     const QCommandLineOption summaryOption(
         QStringLiteral("summary"),
         QStringLiteral("At the end, print on stderr per console page the lines sent intact and the lines it takes."));
+    const QCommandLineOption rtcmOption(
+        QStringLiteral("rtcm"),
+        QStringLiteral("Be an RTK base station at --lat/--lon/--height: send RTCM 3 (1005, MSM4 of GPS, GLONASS, "
+                       "Galileo, BDS at 1 Hz) instead of the mode's messages."));
+    const QCommandLineOption correctionsOption(
+        QStringLiteral("needs-corrections"),
+        QStringLiteral("RTK fixed only while valid RTCM 3 frames come back over --listen or --serial; single after "
+                       "5 s without one."));
     parser.addOptions({modeOption, durationOption, seedOption, startOption, latOption, lonOption, heightOption,
                        radiusOption, speedOption, rateOption, listOption, corruptOption, truncateOption, dropOption,
                        garbageOption, splitOption, outputOption, listenOption, waitOption, serialOption, baudOption,
-                       fastOption, summaryOption});
+                       fastOption, summaryOption, rtcmOption, correctionsOption});
     parser.process(app);
 
     SimulatorSettings settings;
@@ -304,6 +323,20 @@ int main(int argc, char **argv)
     settings.faults.splitMaxBytes = int(splitMax);
     if (settings.faults.corruptChecksum + settings.faults.truncate + settings.faults.dropTerminator > 1.0)
         return fail(QStringLiteral("--corrupt, --truncate and --drop-crlf add up to more than 1"));
+
+    settings.rtcmBase = parser.isSet(rtcmOption);
+    settings.needsCorrections = parser.isSet(correctionsOption);
+    if (settings.rtcmBase && settings.needsCorrections)
+        return fail(QStringLiteral("--rtcm sends corrections; it cannot also need them"));
+    // Line faults damage lines; RTCM frames have none (--split still applies).
+    if (settings.rtcmBase
+        && (settings.faults.corruptChecksum > 0.0 || settings.faults.truncate > 0.0
+            || settings.faults.dropTerminator > 0.0 || settings.faults.garbage > 0.0))
+        return fail(QStringLiteral("--rtcm takes no --corrupt, --truncate, --drop-crlf or --garbage"));
+    if (settings.needsCorrections && settings.mode == 7)
+        return fail(QStringLiteral("--needs-corrections needs a mode with RTK (the timing receiver has none)"));
+    if (settings.needsCorrections && !parser.isSet(listenOption) && !parser.isSet(serialOption))
+        return fail(QStringLiteral("--needs-corrections needs --listen or --serial to read corrections from"));
 
     for (const QString &rate : parser.values(rateOption)) {
         const int eq = rate.indexOf(QLatin1Char('='));
@@ -361,6 +394,7 @@ int main(int argc, char **argv)
     if (parser.isSet(serialOption)) {
         const int baud = parser.value(baudOption).toInt(&ok);
         auto *serial = new SerialOutput(fast, owner.get());
+        serial->setReadsBack(settings.needsCorrections);
         QString error;
         if (!ok || !serial->open(parser.value(serialOption), baud, &error))
             return fail(error.isEmpty() ? QStringLiteral("--baud needs a number") : error);
@@ -368,6 +402,15 @@ int main(int argc, char **argv)
     }
     if (outputs.isEmpty())
         outputs << new StreamOutput(stdout, false, owner.get());
+    if (settings.needsCorrections) {
+        for (Output *output : qAsConst(outputs)) {
+            QObject::connect(output, &Output::received, &app, [&simulator](quintptr link, const QByteArray &bytes) {
+                simulator.receiveFromLink(link, bytes.constData(), bytes.size());
+            });
+            QObject::connect(output, &Output::linkClosed, &app,
+                             [&simulator](quintptr link) { simulator.closeLink(link); });
+        }
+    }
 
     const int waitClients = parser.value(waitOption).toInt(&ok);
     if (!ok || waitClients < 0)

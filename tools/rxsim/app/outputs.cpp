@@ -16,6 +16,9 @@ namespace {
 // possible) or the output gives up on it (real time).
 constexpr qint64 kPauseBacklog = 1 << 20;
 constexpr qint64 kDropBacklog = 16 << 20;
+// What is read back from a link in one go; it is handed on at once.
+constexpr int kReadBackChunk = 4096;
+constexpr int kReadBackChunksPerPump = 16;
 
 qint64 monotonicNs()
 {
@@ -59,13 +62,17 @@ TcpOutput::TcpOutput(bool asFastAsPossible, QObject *parent)
     connect(m_server, &QTcpServer::newConnection, this, [this] {
         while (QTcpSocket *client = m_server->nextPendingConnection()) {
             client->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+            client->setReadBufferSize(16 * kReadBackChunk);
             m_clients << client;
+            connect(client, &QTcpSocket::readyRead, this,
+                    [this, client] { emit received(quintptr(client), client->readAll()); });
             connect(client, &QTcpSocket::bytesWritten, this, [this] {
                 if (!isBacklogged())
                     emit drained();
             });
             connect(client, &QTcpSocket::disconnected, this, [this, client] {
                 m_clients.removeAll(client);
+                emit linkClosed(quintptr(client));
                 client->deleteLater();
                 emit clientCountChanged(m_clients.size());
                 if (!isBacklogged())
@@ -204,8 +211,22 @@ bool SerialOutput::isBacklogged() const
     return m_pending.size() > qMax<qint64>(4096, qint64(m_bytesPerSecond / 2.0));
 }
 
+void SerialOutput::readBack()
+{
+    // A bounded share per pump, so a line that floods us cannot stall the sending.
+    char buffer[kReadBackChunk];
+    for (int i = 0; i < kReadBackChunksPerPump; ++i) {
+        const ssize_t got = ::read(m_fd, buffer, sizeof buffer);
+        if (got <= 0)
+            return;
+        emit received(quintptr(this), QByteArray(buffer, int(got)));
+    }
+}
+
 void SerialOutput::pump()
 {
+    if (m_readsBack && !m_failed)
+        readBack();
     const qint64 now = monotonicNs();
     m_allowance = qMin(m_allowance + (now - m_lastPumpNs) / 1e9 * m_bytesPerSecond, m_bytesPerSecond * 0.02 + 64.0);
     m_lastPumpNs = now;

@@ -28,6 +28,10 @@ public:
 signals:
     void drained();
     void finished();
+    // Bytes the other end sent back over one of the output's links, and the end of
+    // that link (a TCP client leaving).
+    void received(quintptr link, const QByteArray &bytes);
+    void linkClosed(quintptr link);
 };
 
 // Standard output or a file: plain blocking writes.
@@ -47,7 +51,7 @@ private:
 };
 
 // A TCP server on the loopback interface; every client gets the stream from the
-// moment it connects.
+// moment it connects. What a client sends is handed on as received() at once.
 class TcpOutput : public Output
 {
     Q_OBJECT
@@ -73,7 +77,8 @@ private:
 };
 
 // A serial device or pseudo-terminal, raw 8N1 at a standard baud rate; bytes leave
-// no faster than the line would carry them (ten bit times per byte).
+// no faster than the line would carry them (ten bit times per byte). With
+// setReadsBack(true) what arrives on the line is handed on as received().
 class SerialOutput : public Output
 {
     Q_OBJECT
@@ -81,6 +86,7 @@ public:
     SerialOutput(bool asFastAsPossible, QObject *parent = nullptr);
     ~SerialOutput() override;
     bool open(const QString &path, int baud, QString *error);
+    void setReadsBack(bool readsBack) { m_readsBack = readsBack; }
     void write(const QByteArray &chunk) override;
     bool isBacklogged() const override;
     bool hasFailed() const override { return m_failed; }
@@ -88,6 +94,7 @@ public:
 
 private:
     void pump();
+    void readBack();
 
     int m_fd = -1;
     double m_bytesPerSecond = 0.0;
@@ -96,6 +103,7 @@ private:
     QByteArray m_pending;
     QTimer m_timer;
     bool m_asFastAsPossible;
+    bool m_readsBack = false;
     bool m_failed = false;
     bool m_finishing = false;
     bool m_warnedOverflow = false;

@@ -97,11 +97,16 @@ int Epoch::usedCountOf(GnssSystem system) const
     }));
 }
 
-Receiver::Receiver(const PlatformSettings &platform, bool rtk, quint64 seed, const QDateTime &startUtc)
+qint64 gpsMillisecondsAt(const QDateTime &utc)
+{
+    return kGpsEpoch.msecsTo(utc) + 18000;
+}
+
+Receiver::Receiver(const PlatformSettings &platform, RtkCorrections rtk, quint64 seed, const QDateTime &startUtc)
     : m_platform(platform)
     , m_rtk(rtk)
     , m_seed(seed)
-    , m_startGpsMs(kGpsEpoch.msecsTo(startUtc) + 18000)
+    , m_startGpsMs(gpsMillisecondsAt(startUtc))
 {
 }
 
@@ -176,10 +181,12 @@ Epoch Receiver::at(qint64 elapsedMs)
     track(t, antenna, lat, lon, e);
     e.dops = dopsOf(e.satellites, lat, lon, antenna);
 
-    // RTK corrections flow except for a short outage every four minutes, when the
-    // solution falls back to float.
-    const bool corrections = m_rtk && e.usedCount >= 5;
-    e.rtkFixed = corrections && std::fmod(t, 240.0) < 200.0;
+    // Simulated corrections flow except for a short outage every four minutes, when
+    // the solution falls back to float; real ones fix the solution while they arrive.
+    const bool arriving = m_rtk == RtkCorrections::Simulated
+        || (m_rtk == RtkCorrections::FromLink && m_correctionsArriving);
+    const bool corrections = arriving && e.usedCount >= 5;
+    e.rtkFixed = corrections && (m_rtk == RtkCorrections::FromLink || std::fmod(t, 240.0) < 200.0);
     e.differentialAge = corrections ? 1.0 + 0.4 * hashUniform(m_seed, 7, quint64(t)) : 0.0;
 
     e.pseudorange = fix(e, lat, lon, hMsl, 0.9, 1.6, 10, t);

@@ -115,6 +115,14 @@ struct Epoch
     int usedCountOf(GnssSystem system) const;
 };
 
+// Where the receiver's RTK corrections come from.
+enum class RtkCorrections
+{
+    None,      // a receiver without RTK (the timing receiver)
+    Simulated, // always there but for a float spell every four minutes
+    FromLink,  // fixed only while setCorrectionsArriving(true)
+};
+
 // The receiver: the vehicle, its antennas and what it tracks of the sky. Asked for
 // instants in increasing order (lock times run from the instant a signal is first
 // seen).
@@ -123,8 +131,14 @@ class Receiver
 public:
     static constexpr double kElevationMask = 5.0;
 
-    Receiver(const PlatformSettings &platform, bool rtk, quint64 seed, const QDateTime &startUtc);
+    Receiver(const PlatformSettings &platform, RtkCorrections rtk, quint64 seed, const QDateTime &startUtc);
+    Receiver(const PlatformSettings &platform, bool rtk, quint64 seed, const QDateTime &startUtc)
+        : Receiver(platform, rtk ? RtkCorrections::Simulated : RtkCorrections::None, seed, startUtc)
+    {
+    }
     Epoch at(qint64 elapsedMs);
+    // With RtkCorrections::FromLink: whether corrections reach the receiver now.
+    void setCorrectionsArriving(bool arriving) { m_correctionsArriving = arriving; }
 
 private:
     void platformState(double t, Epoch &e, double &lat, double &lon, double &hMsl) const;
@@ -133,13 +147,17 @@ private:
                     double verticalNoise, quint64 key, double t) const;
 
     PlatformSettings m_platform;
-    bool m_rtk;
+    RtkCorrections m_rtk;
+    bool m_correctionsArriving = false;
     quint64 m_seed;
     qint64 m_startGpsMs;
     Sky m_sky;
     QHash<quint32, double> m_lockStart; // per satellite signal: elapsed seconds of first lock
     bool m_firstEpoch = true;
 };
+
+// Milliseconds since the GPS epoch at a UTC time, with the receiver's 18 leap seconds.
+qint64 gpsMillisecondsAt(const QDateTime &utc);
 
 // A smooth stand-in for the geoid: undulation in metres at a place.
 double geoidUndulation(double latitudeDeg, double longitudeDeg);

@@ -60,7 +60,12 @@ Simulator::Simulator(const SimulatorSettings &settings)
     // The timing receiver's antenna is fixed on a roof; it does no RTK.
     if (settings.mode == 7)
         platform.speed = 0.0;
-    m_receiver.reset(new Receiver(platform, settings.mode != 7, settings.seed, settings.startUtc));
+    const RtkCorrections rtk = settings.mode == 7 ? RtkCorrections::None
+        : settings.needsCorrections                ? RtkCorrections::FromLink
+                                                   : RtkCorrections::Simulated;
+    m_receiver.reset(new Receiver(platform, rtk, settings.seed, settings.startUtc));
+    if (settings.rtcmBase)
+        m_base.reset(new BaseStation(settings.platform, settings.seed, settings.startUtc));
 
     const QVector<MessageKind> &kinds = messageKinds();
     for (int i = 0; i < kinds.size(); ++i) {
@@ -112,6 +117,14 @@ QVector<QByteArray> Simulator::step()
     m_tally.simulatedMs = m_tick * kTickMs;
     m_lastLines.clear();
 
+    if (m_base) {
+        if (now % kRtcmPeriodMs != 0)
+            return {};
+        const QByteArray frames = m_base->framesAt(now);
+        m_tally.bytes += quint64(frames.size());
+        return m_faults.split(frames);
+    }
+
     QVector<int> due;
     for (int i = 0; i < m_schedule.size(); ++i) {
         const Schedule &s = m_schedule.at(i);
@@ -121,6 +134,7 @@ QVector<QByteArray> Simulator::step()
     if (due.isEmpty())
         return {};
 
+    m_receiver->setCorrectionsArriving(m_corrections.arrivingAt(now));
     const Epoch epoch = m_receiver->at(now);
     QByteArray bytes;
     const MessageWriter::LineSink sink = [&](const QByteArray &line) {
@@ -149,6 +163,11 @@ QVector<QByteArray> Simulator::step()
     m_tally.bytes += quint64(bytes.size());
     cut(bytes);
     return m_faults.split(bytes);
+}
+
+void Simulator::receiveFromLink(quintptr link, const char *data, int size)
+{
+    m_corrections.feed(link, data, size, nextTickMs());
 }
 
 QByteArray Simulator::run(qint64 durationMs)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "basestation.h"
+#include "correctioninput.h"
 #include "faults.h"
 #include "receiver.h"
 
@@ -22,6 +24,11 @@ struct SimulatorSettings
     PlatformSettings platform;
     QHash<QString, int> periodsMs; // by message name; 0 stops a message
     FaultSettings faults;
+    // Send RTCM 3 as a base station at the platform's centre instead of the mode's
+    // messages: 1005 and MSM4 of GPS, GLONASS, Galileo and BDS every second.
+    bool rtcmBase = false;
+    // RTK only while RTCM 3 frames come back over the link (receiveFromLink()).
+    bool needsCorrections = false;
 };
 
 // What a run sent and where it belongs, per page of the mode in page order.
@@ -75,6 +82,11 @@ public:
     // Runs until the simulated time reaches durationMs and returns all bytes.
     QByteArray run(qint64 durationMs);
     qint64 nextTickMs() const { return m_tick * kTickMs; }
+    // Bytes a link (any number naming it) sent back, arriving before the next tick;
+    // they count with SimulatorSettings::needsCorrections.
+    void receiveFromLink(quintptr link, const char *data, int size);
+    void closeLink(quintptr link) { m_corrections.close(link); }
+    qint64 correctionFrames() const { return m_corrections.frames(); }
 
     const Tally &tally() const { return m_tally; }
     const QVector<SentLine> &lastLines() const { return m_lastLines; }
@@ -84,12 +96,15 @@ public:
     // The messages a mode sends, with their default periods.
     static QVector<Schedule> defaultSchedule(int mode);
     static bool isMessageName(const QString &name);
+    static constexpr int kRtcmPeriodMs = 1000;
 
 private:
     void cut(const QByteArray &bytes);
 
     SimulatorSettings m_settings;
     std::unique_ptr<Receiver> m_receiver;
+    std::unique_ptr<BaseStation> m_base; // with rtcmBase
+    CorrectionInput m_corrections;
     FaultInjector m_faults;
     QVector<Schedule> m_schedule;
     QVector<int> m_kindIndex; // into messageKinds(), parallel to m_schedule

@@ -141,7 +141,8 @@ NtripChunkDecoder::Status NtripChunkDecoder::takeLine(const QByteArray &line)
 {
     switch (m_part) {
     case Part::SizeLine: {
-        const QByteArray sizeText = line.left(line.indexOf(';')).trimmed(); // without extensions
+        const int extension = line.indexOf(';');
+        const QByteArray sizeText = (extension < 0 ? line : line.left(extension)).trimmed();
         bool ok = !sizeText.isEmpty() && sizeText.size() <= kMaxChunkSizeDigits;
         for (const char c : sizeText)
             ok = ok && std::isxdigit(uchar(c));

@@ -352,8 +352,12 @@ void NtripClient::acceptHeader(const QByteArray &statusLine, const QByteArray &f
                    : tr("%1 refused user %2: wrong user name or password").arg(target(), m_address.user));
         return;
     }
+    if (m_request == Request::MissingMountpoint && code != 200) {
+        sourcetableFailed(quoted(statusLine));
+        return;
+    }
     if (code == 404 && m_request == Request::Stream) {
-        finish(State::Failed, tr("mountpoint %1 is not on the caster %2").arg(m_address.mountpoint, casterText()));
+        connectToCaster(Request::MissingMountpoint); // to offer the mountpoints there are
         return;
     }
     if (code != 200) {
@@ -364,7 +368,7 @@ void NtripClient::acceptHeader(const QByteArray &statusLine, const QByteArray &f
             finish(State::Failed, text);
         return;
     }
-    m_sourcetableBody = sourcetableAnswer || m_request == Request::Sourcetable
+    m_sourcetableBody = sourcetableAnswer || m_request != Request::Stream
         || fieldValue(fields, "Content-Type").toLower().startsWith("gnss/sourcetable");
     m_chunked = fieldValue(fields, "Transfer-Encoding").toLower().contains("chunked");
     bool hasLength = false;
@@ -446,8 +450,7 @@ void NtripClient::finishSourcetable()
     if (m_request == Request::Sourcetable)
         finish(State::Idle, tr("%1 offers %n mountpoint(s)", nullptr, mountpoints.size()).arg(casterText()));
     else
-        finish(State::Failed, tr("mountpoint %1 is not on the caster %2 (it offers %n mountpoint(s))", nullptr,
-                                 mountpoints.size()).arg(m_address.mountpoint, casterText()));
+        finish(State::Failed, tr("%1 (it offers %n mountpoint(s))", nullptr, mountpoints.size()).arg(missingMountpointText()));
     emit sourcetableReceived(mountpoints);
 }
 
@@ -460,8 +463,8 @@ void NtripClient::connectionEnded(const QString &reason)
         return;
     if (m_phase == Phase::Body && m_sourcetableBody)
         finishSourcetable(); // a sourcetable without a length ends with the connection
-    else if (m_request == Request::Sourcetable)
-        finish(State::Failed, tr("no sourcetable from %1: %2").arg(casterText(), reason));
+    else if (m_request != Request::Stream)
+        sourcetableFailed(reason);
     else
         retry(reason);
 }
@@ -471,10 +474,22 @@ void NtripClient::stalled()
     const QString seconds = QString::number(m_stallTimeoutMs / 1000.0);
     const QString reason = m_phase == Phase::Body ? tr("no data from %1 for %2 s").arg(target(), seconds)
                                                   : tr("no answer from %1 within %2 s").arg(casterText(), seconds);
-    if (m_request == Request::Sourcetable)
-        finish(State::Failed, reason);
-    else
+    if (m_request == Request::Stream)
         retry(reason);
+    else
+        sourcetableFailed(reason);
+}
+
+void NtripClient::sourcetableFailed(const QString &reason)
+{
+    finish(State::Failed, m_request == Request::MissingMountpoint
+               ? tr("%1; its sourcetable could not be fetched: %2").arg(missingMountpointText(), reason)
+               : tr("no sourcetable from %1: %2").arg(casterText(), reason));
+}
+
+QString NtripClient::missingMountpointText() const
+{
+    return tr("mountpoint %1 is not on the caster %2").arg(m_address.mountpoint, casterText());
 }
 
 void NtripClient::retry(const QString &reason)

@@ -94,7 +94,8 @@ signals:
     void sourcetableReceived(const QList<NtripMountpoint> &mountpoints);
 
 private:
-    enum class Request { Stream, Sourcetable };
+    // MissingMountpoint: the sourcetable, fetched after the caster did not know the mountpoint.
+    enum class Request { Stream, Sourcetable, MissingMountpoint };
     enum class Phase { Header, Body, Done };
 
     void connectToCaster(Request request);
@@ -109,6 +110,8 @@ private:
     void finishSourcetable();
     void connectionEnded(const QString &reason);
     void stalled();
+    void sourcetableFailed(const QString &reason);
+    QString missingMountpointText() const;
     void retry(const QString &reason);
     void finish(State state, const QString &text);
     void setState(State state, const QString &text);

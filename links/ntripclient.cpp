@@ -269,7 +269,8 @@ void NtripClient::sendRequest()
         request += " HTTP/1.0\r\n";
     request += "User-Agent: NTRIP msgview/" + m_agentVersion.toUtf8() + "\r\n";
     if (!m_address.user.isEmpty())
-        request += "Authorization: Basic " + (m_address.user + QLatin1Char(':') + m_address.password).toUtf8().toBase64() + "\r\n";
+        request += "Authorization: Basic "
+            + (m_address.user + QLatin1Char(':') + m_address.password).toUtf8().toBase64() + "\r\n";
     request += "Connection: close\r\n\r\n";
     m_socket->write(request);
     // Right after the request rather than in an Ntrip-GGA field: 1.0 casters read it there too.

@@ -42,8 +42,8 @@ public:
 private:
     Status fail(const QString &text);
     Status takeLine(const QByteArray &line);
-    enum class Part { SizeLine, Data, DataEnd, Trailer, Finished };
-    Part m_part = Part::SizeLine;
+    enum class Stage { SizeLine, Data, DataEnd, Trailer, Finished };
+    Stage m_stage = Stage::SizeLine;
     QByteArray m_line;
     qint64 m_remaining = 0;
     QString m_error;

@@ -137,7 +137,8 @@ private:
 
 } // namespace
 
-bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, const QString &path, QString *error)
+bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, const CorrectionSnapshot *corrections,
+                      const QString &path, QString *error)
 {
     QFile file;
     const bool opened = path == QLatin1String("-") ? file.open(stdout, QIODevice::WriteOnly)
@@ -146,6 +147,8 @@ bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, co
     const MessageStatistics &statistics = traffic.statistics();
     report.insert(QStringLiteral("messages"), statistics.toJson(statistics.latestMs()));
     report.insert(QStringLiteral("garbageBytes"), double(statistics.totals(statistics.latestMs()).garbageBytes));
+    if (corrections)
+        report.insert(QStringLiteral("corrections"), correctionsReport(*corrections));
     const QByteArray json = QJsonDocument(report).toJson(QJsonDocument::Indented);
     if (!opened || file.write(json) != json.size() || !file.flush()) {
         *error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
@@ -190,13 +193,17 @@ int runHeadlessLive(MessageViewModules &module, ReceiverState &state, LineTraffi
                              || linkState == ReceiverConnection::State::Failed)
                              loop.quit();
                      });
-    QObject::connect(&session.server(), &RawByteServer::message, &loop,
-                     [](const QString &text) { std::fprintf(stderr, "msgview: %s\n", qPrintable(text)); });
+    const auto say = [](const QString &text) { std::fprintf(stderr, "msgview: %s\n", qPrintable(text)); };
+    QObject::connect(&session.server(), &RawByteServer::message, &loop, say);
+    QObject::connect(&session, &ReceiverSession::message, &loop, say);
+    QObject::connect(&session, &ReceiverSession::correctionsStateChanged, &loop,
+                     [&](NtripClient::State, const QString &text) { say(QStringLiteral("NTRIP: ") + text); });
     QElapsedTimer timer;
     timer.start();
     session.open(std::move(connection));
     if (session.connection()->state() != ReceiverConnection::State::Failed)
         loop.exec();
+    session.stopCorrections();
     session.close();
     traffic.finish();
     printSummary(module, traffic, bytes, timer.nsecsElapsed() / 1e9, out);

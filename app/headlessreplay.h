@@ -12,6 +12,7 @@ class LineTraffic;
 class ReceiverState;
 class ReceiverSession;
 class ReceiverConnection;
+struct CorrectionSnapshot;
 
 // Feeds a whole input to a module (and the receiver state) as fast as possible and
 // prints what each page took, the kinds no page took and the damage.
@@ -31,9 +32,10 @@ int runHeadlessLive(MessageViewModules &module, ReceiverState &state, LineTraffi
 int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QStackedWidget &stack,
                 QIODevice &input, const QString &directory, QTextStream &out);
 
-// The receiver state and the messages seen as one JSON object, into path ("-":
-// standard output).
-bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, const QString &path, QString *error);
+// The receiver state, the messages seen and (with a correction stream) the corrections
+// as one JSON object, into path ("-": standard output).
+bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, const CorrectionSnapshot *corrections,
+                      const QString &path, QString *error);
 
 // Saves a picture of the widget as it is into directory/name.png and names the file on
 // out (or says it could not); true when written.

@@ -1,7 +1,9 @@
 #include "mainwindow.h"
 
-#include "messageviewmodules.h"
+#include "correctionsview.h"
 #include "linetraffic.h"
+#include "messageviewmodules.h"
+#include "ntripdialog.h"
 #include "receiverdocks.h"
 #include "trafficdocks.h"
 
@@ -88,6 +90,7 @@ MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
     createModule();
     m_docks = new ReceiverDocks(m_state, *this);
     m_trafficDocks = new TrafficDocks(*m_traffic, *this);
+    createCorrectionsDock();
     buildMenus();
     resize(1600, 1000);
     // Where the user left the window and its docks.
@@ -167,6 +170,8 @@ void MainWindow::buildMenus()
         else
             stopRecording();
     });
+    connectionMenu->addAction(tr("&Corrections from NTRIP..."), this, &MainWindow::chooseCorrections);
+    connectionMenu->addAction(tr("Stop corrections"), this, [this] { m_session.stopCorrections(); });
     m_serveAction = connectionMenu->addAction(tr("Serve raw bytes to other programs..."));
     m_serveAction->setCheckable(true);
     connect(m_serveAction, &QAction::triggered, this, &MainWindow::toggleServing);
@@ -206,6 +211,49 @@ void MainWindow::buildMenus()
     m_docks->addToggleActions(viewMenu);
     viewMenu->addSeparator();
     m_trafficDocks->addToggleActions(viewMenu);
+    viewMenu->addAction(m_correctionsDock->toggleViewAction());
+}
+
+// Tabbed with the message statistics at first; the session's figures, the state's fix.
+void MainWindow::createCorrectionsDock()
+{
+    m_correctionsView = new CorrectionsView([this] { return m_session.corrections(); }, [this] { return m_state.fix(); });
+    m_correctionsDock = new QDockWidget(tr("Corrections"), this);
+    m_correctionsDock->setObjectName(QStringLiteral("dock-corrections"));
+    m_correctionsDock->setWidget(m_correctionsView);
+    addDockWidget(Qt::BottomDockWidgetArea, m_correctionsDock);
+    if (QDockWidget *messages = findChild<QDockWidget *>(QStringLiteral("dock-messages")))
+        tabifyDockWidget(messages, m_correctionsDock);
+    m_correctionsLabel = new QLabel;
+    statusBar()->addPermanentWidget(m_correctionsLabel);
+    m_correctionsLabel->hide();
+    m_session.setReceiverState(&m_state);
+    connect(&m_session, &ReceiverSession::correctionsStateChanged, this,
+            [this](NtripClient::State state, const QString &text) {
+                m_correctionsView->setLinkText(text);
+                m_correctionsLabel->setText(tr("Corrections: %1").arg(text));
+                m_correctionsLabel->setVisible(state != NtripClient::State::Idle);
+                if (state == NtripClient::State::Failed || state == NtripClient::State::Retrying)
+                    statusBar()->showMessage(text, 8000);
+            });
+    connect(&m_session, &ReceiverSession::message, this, [this](const QString &text) {
+        statusBar()->showMessage(text, 8000);
+    });
+}
+
+void MainWindow::startCorrections(const NtripAddress &address, int ggaIntervalSeconds)
+{
+    m_session.startCorrections(address, ggaIntervalSeconds);
+}
+
+void MainWindow::chooseCorrections()
+{
+    NtripDialog dialog([this] { return m_state.fix(); }, this);
+    if (dialog.exec() == QDialog::Accepted) {
+        startCorrections(dialog.address(), dialog.ggaIntervalSeconds());
+        m_correctionsDock->show();
+        m_correctionsDock->raise();
+    }
 }
 
 void MainWindow::setMode(int mode)

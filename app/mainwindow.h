@@ -12,6 +12,8 @@
 
 class MessageViewModules;
 class LineTraffic;
+class CorrectionsView;
+class QDockWidget;
 class ReceiverDocks;
 class TrafficDocks;
 class QActionGroup;
@@ -50,6 +52,9 @@ public:
     QString recordingPath() const { return m_recording.fileName(); }
     // Sends a typed command with "\r\n"; false (and a status message) without a link.
     bool sendCommandText(const QString &command);
+    // Corrections from a caster, written to the receiver and shown in their dock.
+    void startCorrections(const NtripAddress &address, int ggaIntervalSeconds);
+    CorrectionsView *correctionsView() const { return m_correctionsView; }
 
     static QList<QPair<int, QString>> productModes();
 
@@ -63,6 +68,8 @@ private:
     void chooseSerialPort();
     void chooseNetworkPeer(const QString &kind, const QString &title, const QString &label);
     void toggleServing(bool on);
+    void createCorrectionsDock();
+    void chooseCorrections();
     void chooseReplayFile();
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -87,6 +94,9 @@ private:
     QStringList m_history;
     int m_historyIndex = 0;
     QLabel *m_connectionLabel = nullptr;
+    QLabel *m_correctionsLabel = nullptr;
+    CorrectionsView *m_correctionsView = nullptr;
+    QDockWidget *m_correctionsDock = nullptr;
     QLabel *m_rateLabel = nullptr;
     QLabel *m_totalLabel = nullptr;
     QLabel *m_silenceLabel = nullptr;

@@ -1,5 +1,6 @@
 #include "headlessreplay.h"
 
+#include "correctionsview.h"
 #include "linetraffic.h"
 
 #include "messageviewmodules.h"
@@ -42,22 +43,6 @@ QString peakRssText()
         }
     }
     return QStringLiteral("n/a");
-}
-
-// Feeds the whole input to the state and the module (the state first: its clock
-// stamps what the module reports); returns the bytes read. A file or pipe read blocks
-// until bytes arrive and returns nothing at the end.
-qint64 feedAll(QIODevice &input, MessageViewModules &module, ReceiverState &state, LineTraffic &traffic)
-{
-    constexpr qint64 kChunk = 64 * 1024;
-    qint64 bytes = 0;
-    for (QByteArray chunk = input.read(kChunk); !chunk.isEmpty(); chunk = input.read(kChunk)) {
-        bytes += chunk.size();
-        state.feed(chunk);
-        module.onUpdateBuffer(chunk);
-    }
-    traffic.finish();
-    return bytes;
 }
 
 void printUnpagedKindsAndDamage(const LineTraffic &traffic, QTextStream &out)
@@ -157,57 +142,69 @@ bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, co
     return true;
 }
 
-int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QIODevice &input,
-                      QTextStream &out)
+HeadlessFeeder feedFromDevice(QIODevice &input)
 {
-    QElapsedTimer timer;
-    timer.start();
-    const qint64 bytes = feedAll(input, module, state, traffic);
-    printSummary(module, traffic, bytes, timer.nsecsElapsed() / 1e9, out);
-    return 0;
+    return [&input](MessageViewModules &module, ReceiverState &state) {
+        constexpr qint64 kChunk = 64 * 1024;
+        qint64 bytes = 0;
+        // A file or pipe read blocks until bytes arrive and returns nothing at the end.
+        for (QByteArray chunk = input.read(kChunk); !chunk.isEmpty(); chunk = input.read(kChunk)) {
+            bytes += chunk.size();
+            state.feed(chunk);
+            module.onUpdateBuffer(chunk);
+        }
+        return bytes;
+    };
 }
 
-int runHeadlessLive(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, ReceiverSession &session,
-                    std::unique_ptr<ReceiverConnection> connection, int durationSeconds, QTextStream &out)
+HeadlessFeeder feedFromSession(ReceiverSession &session, int durationSeconds, int *status)
 {
-    QEventLoop loop;
-    QTimer deadline;
-    deadline.setSingleShot(true);
-    QObject::connect(&deadline, &QTimer::timeout, &loop, &QEventLoop::quit);
-    if (durationSeconds > 0)
-        deadline.start(durationSeconds * 1000);
-    const SignalQuitter quitter(&loop);
-    qint64 bytes = 0;
-    int status = 0;
-    QObject::connect(&session, &ReceiverSession::dataReceived, &loop, [&](const QByteArray &chunk) {
-        bytes += chunk.size();
-        state.feed(chunk);
-        module.onUpdateBuffer(chunk);
-    });
-    QObject::connect(&session, &ReceiverSession::connectionStateChanged, &loop,
-                     [&](ReceiverConnection::State linkState, const QString &text) {
-                         std::fprintf(stderr, "msgview: %s\n", qPrintable(text));
-                         if (linkState == ReceiverConnection::State::Failed)
-                             status = 1;
-                         if (linkState == ReceiverConnection::State::Finished
-                             || linkState == ReceiverConnection::State::Failed)
-                             loop.quit();
-                     });
-    const auto say = [](const QString &text) { std::fprintf(stderr, "msgview: %s\n", qPrintable(text)); };
-    QObject::connect(&session.server(), &RawByteServer::message, &loop, say);
-    QObject::connect(&session, &ReceiverSession::message, &loop, say);
-    QObject::connect(&session, &ReceiverSession::correctionsStateChanged, &loop,
-                     [&](NtripClient::State, const QString &text) { say(QStringLiteral("NTRIP: ") + text); });
+    return [&session, durationSeconds, status](MessageViewModules &module, ReceiverState &state) {
+        QEventLoop loop;
+        QTimer deadline;
+        deadline.setSingleShot(true);
+        QObject::connect(&deadline, &QTimer::timeout, &loop, &QEventLoop::quit);
+        if (durationSeconds > 0)
+            deadline.start(durationSeconds * 1000);
+        const SignalQuitter quitter(&loop);
+        qint64 bytes = 0;
+        QObject::connect(&session, &ReceiverSession::dataReceived, &loop, [&](const QByteArray &chunk) {
+            bytes += chunk.size();
+            state.feed(chunk);
+            module.onUpdateBuffer(chunk);
+        });
+        const auto say = [](const QString &text) { std::fprintf(stderr, "msgview: %s\n", qPrintable(text)); };
+        const auto takeState = [&](ReceiverConnection::State linkState, const QString &text) {
+            say(text);
+            if (linkState == ReceiverConnection::State::Failed)
+                *status = 1;
+            if (linkState == ReceiverConnection::State::Finished || linkState == ReceiverConnection::State::Failed)
+                loop.quit();
+        };
+        QObject::connect(&session, &ReceiverSession::connectionStateChanged, &loop, takeState);
+        QObject::connect(&session.server(), &RawByteServer::message, &loop, say);
+        QObject::connect(&session, &ReceiverSession::message, &loop, say);
+        QObject::connect(&session, &ReceiverSession::correctionsStateChanged, &loop,
+                         [&](NtripClient::State, const QString &text) { say(QStringLiteral("NTRIP: ") + text); });
+        // The link was opened before anyone listened: what it has said so far counts too.
+        takeState(session.connection()->state(), session.connection()->stateText());
+        if (*status == 0 && session.connection()->state() != ReceiverConnection::State::Finished)
+            loop.exec();
+        session.stopCorrections();
+        session.close();
+        return bytes;
+    };
+}
+
+int runHeadless(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, const HeadlessFeeder &feed,
+                QTextStream &out)
+{
     QElapsedTimer timer;
     timer.start();
-    session.open(std::move(connection));
-    if (session.connection()->state() != ReceiverConnection::State::Failed)
-        loop.exec();
-    session.stopCorrections();
-    session.close();
+    const qint64 bytes = feed(module, state);
     traffic.finish();
     printSummary(module, traffic, bytes, timer.nsecsElapsed() / 1e9, out);
-    return status;
+    return 0;
 }
 
 bool writePicture(QWidget &widget, const QString &directory, const QString &name, QTextStream &out)
@@ -219,7 +216,7 @@ bool writePicture(QWidget &widget, const QString &directory, const QString &name
 }
 
 int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QStackedWidget &stack,
-                QIODevice &input, const QString &directory, QTextStream &out)
+                const HeadlessFeeder &feed, const QString &directory, QTextStream &out, ReceiverSession *session)
 {
     if (!QDir().mkpath(directory)) {
         out << "msgview: cannot create " << directory << '\n';
@@ -237,8 +234,31 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &t
         pages << page;
     }
     TrafficPictures trafficPictures(traffic);
-    feedAll(input, module, state, traffic);
+    std::unique_ptr<CorrectionsView> corrections;
+    if (session && session->ntrip().state() != NtripClient::State::Idle) {
+        corrections = std::make_unique<CorrectionsView>([session] { return session->corrections(); },
+                                                        [&state] { return state.fix(); });
+        // The picture shows the stream as it ran, not the stop at the end of the run.
+        QObject::connect(session, &ReceiverSession::correctionsStateChanged, corrections.get(),
+                         [view = corrections.get()](NtripClient::State state, const QString &text) {
+                             if (state != NtripClient::State::Idle)
+                                 view->setLinkText(text);
+                         });
+        corrections->setLinkText(session->ntrip().stateText());
+        corrections->resize(900, 500);
+        corrections->show();
+    }
+    feed(module, state);
+    traffic.finish();
     QCoreApplication::processEvents();
+    // As the run ends, before the pages take their time: ages and rates as they were.
+    int views = 0;
+    int expectedViews = ReceiverDocks::viewCount() + TrafficPictures::count;
+    if (corrections) {
+        corrections->refresh();
+        views += writePicture(*corrections, directory, QStringLiteral("dock-corrections"), out);
+        ++expectedViews;
+    }
 
     const QList<QPair<QString, quint64>> counts = module.acceptedLineCounts();
     int written = 0;
@@ -253,8 +273,8 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &t
         page->hide();
         stack.addWidget(page);
     }
-    const int views = ReceiverDocks::savePictures(state, directory, out) + trafficPictures.save(directory, out);
+    views += ReceiverDocks::savePictures(state, directory, out) + trafficPictures.save(directory, out);
     out << written << " pages and " << views << " views written to " << directory << '\n';
     out.flush();
-    return written == pages.size() && views == ReceiverDocks::viewCount() + TrafficPictures::count ? 0 : 1;
+    return written == pages.size() && views == expectedViews ? 0 : 1;
 }

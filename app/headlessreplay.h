@@ -3,7 +3,7 @@
 #include <QIODevice>
 #include <QString>
 #include <QTextStream>
-#include <memory>
+#include <functional>
 
 class MessageViewModules;
 class QWidget;
@@ -11,26 +11,30 @@ class QStackedWidget;
 class LineTraffic;
 class ReceiverState;
 class ReceiverSession;
-class ReceiverConnection;
 struct CorrectionSnapshot;
 
-// Feeds a whole input to a module (and the receiver state) as fast as possible and
-// prints what each page took, the kinds no page took and the damage.
-int runHeadlessReplay(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QIODevice &input,
-                      QTextStream &out);
+// Hands a headless run's bytes to the state and the module (the state first: its clock
+// stamps what the module reports) and returns how many there were.
+using HeadlessFeeder = std::function<qint64(MessageViewModules &module, ReceiverState &state)>;
 
-// Reads a live link through the session (which may also serve its bytes and carry
-// corrections) until durationSeconds have passed (0: until the link ends or SIGINT or
-// SIGTERM arrives), saying on standard error how the link fares; then prints the same
-// summary. 1 when the link failed for good.
-int runHeadlessLive(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, ReceiverSession &session,
-                    std::unique_ptr<ReceiverConnection> connection, int durationSeconds, QTextStream &out);
+// The whole of an input, as fast as it can be read.
+HeadlessFeeder feedFromDevice(QIODevice &input);
+// The session's open link (and whatever the session carries besides: clients served,
+// corrections) until durationSeconds have passed (0: until the link ends, or SIGINT or
+// SIGTERM arrives), saying on standard error how the link fares. status becomes 1 when
+// the link failed for good.
+HeadlessFeeder feedFromSession(ReceiverSession &session, int durationSeconds, int *status);
 
-// Replays the input with every page of the mode visible at once, then writes one PNG
-// per page into directory, named by its tree label, and one of each receiver view
-// (view-sky.png, ...).
+// Feeds everything and prints what each page took, the kinds no page took and the damage.
+int runHeadless(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, const HeadlessFeeder &feed,
+                QTextStream &out);
+
+// Feeds everything with every page of the mode visible at once, then writes one PNG per
+// page into directory, named by its tree label, one of each receiver view (view-sky.png,
+// ...) and of the traffic docks, and with a correction stream dock-corrections.png.
 int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &traffic, QStackedWidget &stack,
-                QIODevice &input, const QString &directory, QTextStream &out);
+                const HeadlessFeeder &feed, const QString &directory, QTextStream &out,
+                ReceiverSession *session = nullptr);
 
 // The receiver state, the messages seen and (with a correction stream) the corrections
 // as one JSON object, into path ("-": standard output).

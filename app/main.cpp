@@ -225,29 +225,31 @@ int main(int argc, char **argv)
         ReceiverSession session;
         if (caster && !connection)
             return fail(QStringLiteral("--ntrip needs a receiver to send the corrections to (--connect)"));
+        QFile input;
+        HeadlessFeeder feed;
         if (connection) {
-            if (parser.isSet(snapshotOption))
-                return fail(QStringLiteral("--snapshot replays a recording; it does not read a live link"));
             if (!prepareSession(session))
                 return 1;
             session.setReceiverState(&state);
+            session.open(std::move(connection));
             if (caster)
                 session.startCorrections(*caster, ggaSeconds);
-            status = runHeadlessLive(module, state, traffic, session, std::move(connection), durationSeconds, out);
+            feed = feedFromSession(session, durationSeconds, &status);
         } else {
-            QFile input;
             const QString path = parser.isSet(replayOption) ? parser.value(replayOption)
                 : parser.isSet(demoOption)                  ? QString::fromLatin1(kDemoSession)
                                                             : QStringLiteral("-");
             if (!openInput(input, path))
                 return fail(QStringLiteral("cannot open %1: %2").arg(path, input.errorString()));
-            status = parser.isSet(snapshotOption)
-                ? runSnapshot(module, state, traffic, stack, input,
-                              QFileInfo(parser.value(snapshotOption)).absoluteFilePath(), out)
-                : runHeadlessReplay(module, state, traffic, input, out);
+            feed = feedFromDevice(input);
         }
-        QString error;
+        const int outcome = parser.isSet(snapshotOption)
+            ? runSnapshot(module, state, traffic, stack, feed, QFileInfo(parser.value(snapshotOption)).absoluteFilePath(),
+                          out, &session)
+            : runHeadless(module, state, traffic, feed, out);
+        status = qMax(status, outcome);
         const CorrectionSnapshot corrections = session.corrections();
+        QString error;
         if (!reportPath.isEmpty()
             && !writeStateReport(state, traffic, caster ? &corrections : nullptr, reportPath, &error))
             return fail(error);

@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -131,10 +132,12 @@ void CorrectionsTest::roverIsFixedWhileTheCasterStreams()
 
 void CorrectionsTest::headlessReportCountsTheCorrections()
 {
+    QTemporaryDir pictures;
     QProcess msgview;
-    msgview.start(MSGVIEW_BINARY, {"--headless", "--mode", "0", "--connect", QString("tcp:127.0.0.1:%1").arg(m_roverPort),
-                                   "--ntrip", ntripUrl(kPassword, m_casterPort, kMountpoint), "--ntrip-gga", "1",
-                                   "--duration", "12", "--report", "-"});
+    msgview.start(MSGVIEW_BINARY, {"--snapshot", pictures.path(), "--mode", "0", "--connect",
+                                   QString("tcp:127.0.0.1:%1").arg(m_roverPort), "--ntrip",
+                                   ntripUrl(kPassword, m_casterPort, kMountpoint), "--ntrip-gga", "1", "--duration", "12",
+                                   "--report", "-"});
     QVERIFY(msgview.waitForFinished(60000));
     QCOMPARE(msgview.exitCode(), 0);
     const QString errors = QString::fromUtf8(msgview.readAllStandardError());
@@ -150,6 +153,7 @@ void CorrectionsTest::headlessReportCountsTheCorrections()
     QVERIFY(corrections["bytes"].toInt() > corrections["frames"].toInt() * 6);
     QVERIFY(corrections["stationId"].isDouble());
     QVERIFY(!errors.contains(kPassword));
+    QVERIFY(QFile::exists(pictures.filePath("dock-corrections.png")));
 }
 
 void CorrectionsTest::refusalsAreClearAndKeepThePasswordOut_data()

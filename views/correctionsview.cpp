@@ -127,7 +127,7 @@ QString correctionsSummary(const QString &linkText, const CorrectionSnapshot &sn
 
 CorrectionsView::CorrectionsView(std::function<CorrectionSnapshot()> corrections, std::function<FixInfo()> fix,
                                  QWidget *parent)
-    : QWidget(parent)
+    : RefreshingView(parent)
     , m_corrections(std::move(corrections))
     , m_fix(std::move(fix))
     , m_summary(new QLabel(this))
@@ -151,9 +151,6 @@ CorrectionsView::CorrectionsView(std::function<CorrectionSnapshot()> corrections
     setColumnsWide(m_table, {QStringLiteral("00000"), QStringLiteral("GLONASS ephemeris"), QStringLiteral("000,000"),
                              QStringLiteral("00.0"), QString()});
     layout->addWidget(m_table, 1);
-
-    m_refreshTimer.setInterval(refreshIntervalMs);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &CorrectionsView::refresh);
 }
 
 void CorrectionsView::setLinkText(const QString &text)
@@ -174,17 +171,4 @@ void CorrectionsView::refresh()
 QString CorrectionsView::summaryText() const
 {
     return m_summary->text();
-}
-
-void CorrectionsView::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    refresh();
-    m_refreshTimer.start();
-}
-
-void CorrectionsView::hideEvent(QHideEvent *event)
-{
-    QWidget::hideEvent(event);
-    m_refreshTimer.stop();
 }

@@ -2,11 +2,10 @@
 
 #include "correctionstatistics.h"
 #include "receivertypes.h"
+#include "refreshingview.h"
 
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>
-#include <QTimer>
-#include <QWidget>
 
 #include <functional>
 
@@ -39,12 +38,10 @@ private:
 // station and its distance, the satellites and signals per system of the latest MSM
 // epochs, and every message number with its count and rate. It reads the figures when
 // shown and then once a second, and not at all while hidden.
-class CorrectionsView : public QWidget
+class CorrectionsView : public RefreshingView
 {
     Q_OBJECT
 public:
-    static constexpr int refreshIntervalMs = 1000;
-
     // corrections gives the figures as of now, timed by the wall clock (milliseconds
     // since the epoch); fix the receiver's position for the baseline to the base.
     CorrectionsView(std::function<CorrectionSnapshot()> corrections, std::function<FixInfo()> fix,
@@ -52,14 +49,12 @@ public:
 
     // Where the corrections come from and how that link fares (never with a password).
     void setLinkText(const QString &text);
-    void refresh();
+    void refresh() override;
 
     QString summaryText() const;
     const CorrectionTypesModel &model() const { return m_model; }
 
 protected:
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
 
 private:
     std::function<CorrectionSnapshot()> m_corrections;
@@ -69,7 +64,6 @@ private:
     CorrectionTypesModel m_model;
     QSortFilterProxyModel m_sorted;
     QTableView *m_table;
-    QTimer m_refreshTimer;
 };
 
 // The lines above the table: link, totals, base station and baseline, one per system.

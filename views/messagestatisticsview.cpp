@@ -120,7 +120,7 @@ QVariant MessageStatisticsModel::headerData(int section, Qt::Orientation orienta
 }
 
 MessageStatisticsView::MessageStatisticsView(MessageStatistics &statistics, QWidget *parent)
-    : QWidget(parent)
+    : RefreshingView(parent)
     , m_statistics(statistics)
     , m_clock(&QDateTime::currentMSecsSinceEpoch)
 {
@@ -158,8 +158,6 @@ MessageStatisticsView::MessageStatisticsView(MessageStatistics &statistics, QWid
         if (current.isValid())
             emit kindSelected(m_model.kindAt(m_sorted.mapToSource(current).row()).kind);
     });
-    m_refreshTimer.setInterval(refreshIntervalMs);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &MessageStatisticsView::refresh);
 }
 
 void MessageStatisticsView::setClock(std::function<qint64()> clock)
@@ -183,17 +181,4 @@ void MessageStatisticsView::refresh()
 QString MessageStatisticsView::totalsText() const
 {
     return m_totals->text();
-}
-
-void MessageStatisticsView::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    refresh();
-    m_refreshTimer.start();
-}
-
-void MessageStatisticsView::hideEvent(QHideEvent *event)
-{
-    QWidget::hideEvent(event);
-    m_refreshTimer.stop();
 }

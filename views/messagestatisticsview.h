@@ -1,11 +1,10 @@
 #pragma once
 
 #include "messagestatistics.h"
+#include "refreshingview.h"
 
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>
-#include <QTimer>
-#include <QWidget>
 
 #include <functional>
 
@@ -51,18 +50,16 @@ private:
 
 // The statistics per kind as a sortable table with the totals above it. It reads the
 // statistics when shown and then once a second, and not at all while hidden.
-class MessageStatisticsView : public QWidget
+class MessageStatisticsView : public RefreshingView
 {
     Q_OBJECT
 public:
-    static constexpr int refreshIntervalMs = 1000;
-
     explicit MessageStatisticsView(MessageStatistics &statistics, QWidget *parent = nullptr);
 
     // What "now" is for rates and "since last": the wall clock unless set (a replay
     // can pass the statistics' latestMs()).
     void setClock(std::function<qint64()> clock);
-    void refresh();
+    void refresh() override;
 
     const MessageStatisticsModel &model() const { return m_model; }
     QTableView *table() const { return m_table; }
@@ -72,8 +69,6 @@ signals:
     void kindSelected(const QByteArray &kind);
 
 protected:
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
 
 private:
     MessageStatistics &m_statistics;
@@ -82,5 +77,4 @@ private:
     QSortFilterProxyModel m_sorted;
     QTableView *m_table;
     QLabel *m_totals;
-    QTimer m_refreshTimer;
 };

@@ -249,8 +249,10 @@ QByteArray stationPosition(const Rtcm3StationPosition &station)
 
 QVector<QByteArray> msm4(const Rtcm3MsmEpoch &epoch)
 {
-    const QVector<MsmBlock> blocks = blocksOf(epoch);
     QVector<QByteArray> frames;
+    if (epoch.system == Rtcm3System::None)
+        return frames;
+    const QVector<MsmBlock> blocks = blocksOf(epoch);
     for (int i = 0; i < blocks.size(); ++i)
         frames << msm4Block(epoch, blocks.at(i), epoch.moreMessagesFollow || i + 1 < blocks.size());
     return frames;
@@ -258,31 +260,24 @@ QVector<QByteArray> msm4(const Rtcm3MsmEpoch &epoch)
 
 int msm4MessageNumber(Rtcm3System system)
 {
-    switch (system) {
-    case Rtcm3System::Gps: return 1074;
-    case Rtcm3System::Glonass: return 1084;
-    case Rtcm3System::Galileo: return 1094;
-    case Rtcm3System::Bds: return 1124;
-    }
-    return 0;
+    // MSM numbers run in tens per system, in the order of Rtcm3System.
+    return system == Rtcm3System::None ? 0 : 1074 + 10 * int(system);
 }
 
 quint32 msmEpochTime(Rtcm3System system, qint64 gpsMilliseconds, int leapSeconds)
 {
     switch (system) {
-    case Rtcm3System::Gps:
-    case Rtcm3System::Galileo:
-        return quint32(positiveModulo(gpsMilliseconds, kWeekMs));
-    case Rtcm3System::Bds:
+    case Rtcm3System::BDS:
         return quint32(positiveModulo(gpsMilliseconds - kBdsBehindGpsMs, kWeekMs));
-    case Rtcm3System::Glonass: {
+    case Rtcm3System::GLONASS: {
         // The GPS epoch was a Sunday, day 0 of the GLONASS day of week.
         const qint64 glonass = gpsMilliseconds - qint64(leapSeconds) * 1000 + kGlonassAheadOfUtcMs;
         const qint64 dayOfWeek = positiveModulo(glonass, kWeekMs) / kDayMs;
         return quint32(dayOfWeek << 27 | positiveModulo(glonass, kDayMs));
     }
+    default: // GPS time of week: GPS, Galileo, SBAS, QZSS, NavIC
+        return quint32(positiveModulo(gpsMilliseconds, kWeekMs));
     }
-    return 0;
 }
 
 int lockTimeIndicator(double seconds)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rtcm3messages.h"
+
 #include <QByteArray>
 #include <QVector>
 #include <QtGlobal>
@@ -26,8 +28,6 @@ struct Rtcm3StationPosition
     bool referenceStation = false; // a computed (virtual) station rather than a real one
 };
 
-enum class Rtcm3System { Gps, Glonass, Galileo, Bds };
-
 struct Rtcm3SignalObservation
 {
     int signalId = 0;                 // the system's MSM signal number, 1..32
@@ -46,7 +46,7 @@ struct Rtcm3SatelliteObservation
 
 struct Rtcm3MsmEpoch
 {
-    Rtcm3System system = Rtcm3System::Gps;
+    Rtcm3System system = Rtcm3System::GPS;
     int stationId = 0;
     qint64 gpsMilliseconds = 0; // since the GPS epoch (1980-01-06)
     int leapSeconds = 18;       // GPS minus UTC, for GLONASS time
@@ -68,7 +68,7 @@ QByteArray stationPosition(const Rtcm3StationPosition &station);
 // Satellites and signals outside 1..64 and 1..32 are left out.
 QVector<QByteArray> msm4(const Rtcm3MsmEpoch &epoch);
 
-int msm4MessageNumber(Rtcm3System system); // 1074, 1084, 1094, 1124
+int msm4MessageNumber(Rtcm3System system); // 1074, 1084, ... 1134; 0 for None
 // The 30-bit epoch time of the MSM header in the system's own time scale.
 quint32 msmEpochTime(Rtcm3System system, qint64 gpsMilliseconds, int leapSeconds);
 // The 4-bit lock time indicator of MSM4 for a lock time in seconds.

@@ -92,9 +92,9 @@ void RxsimRtcmTest::msm4FieldsAtTheirLimits_data()
     e.gpsMilliseconds = sunday + 3000;
     QTest::newRow("empty GPS epoch") << e << 1 << 0 << QVector<qint64>{1074, 3000, 0, 0, 0, 0};
     e.moreMessagesFollow = true;
-    e.system = Rtcm3System::Bds; // BDS time is 14 s behind: the previous week's end
+    e.system = Rtcm3System::BDS; // BDS time is 14 s behind: the previous week's end
     QTest::newRow("BDS before its week") << e << 1 << 0 << QVector<qint64>{1124, 604789000, 1, 0, 0, 0};
-    e.system = Rtcm3System::Glonass; // UTC Sunday 21:00:01 (18 leap seconds), 3 h behind GLONASS
+    e.system = Rtcm3System::GLONASS; // UTC Sunday 21:00:01 (18 leap seconds), 3 h behind GLONASS
     e.gpsMilliseconds = sunday + (21 * 3600 + 19) * 1000;
     QTest::newRow("GLONASS Monday") << e << 1 << 0 << QVector<qint64>{1084, (1 << 27) | 1000, 1, 0, 0, 0};
 

@@ -12,10 +12,10 @@ constexpr int kLeapSeconds = 18;
 
 // The systems a base station sends, in sending order.
 const struct { GnssSystem system; Rtcm3System rtcm; } kSentSystems[] = {
-    {GnssSystem::Gps, Rtcm3System::Gps},
-    {GnssSystem::Glonass, Rtcm3System::Glonass},
+    {GnssSystem::Gps, Rtcm3System::GPS},
+    {GnssSystem::Glonass, Rtcm3System::GLONASS},
     {GnssSystem::Galileo, Rtcm3System::Galileo},
-    {GnssSystem::Bds, Rtcm3System::Bds},
+    {GnssSystem::Bds, Rtcm3System::BDS},
 };
 
 // The MSM signal number of each tracked signal of the sky.

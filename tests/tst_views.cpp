@@ -1,9 +1,11 @@
 // The receiver views through their models: what each turns a hand-built snapshot into,
 // the edges of the sky plot, the threshold and the gaps, and that hidden views do no work.
+#include "correctionsview.h"
 #include "historyview.h"
 #include "positionview.h"
 #include "signalsview.h"
 #include "skyview.h"
+#include "rtcm3encoder.h"
 #include "viewpalette.h"
 
 #include <QtTest>
@@ -90,6 +92,8 @@ private slots:
     void redrawsAtMostTenTimesASecond();
     void badSnapshotsDrawQuietly_data();
     void badSnapshotsDrawQuietly();
+    void correctionsSummaryOfTheBase_data();
+    void correctionsSummaryOfTheBase();
 };
 
 void ViewsTest::skyMarkerPlacement_data()
@@ -431,6 +435,62 @@ void ViewsTest::badSnapshotsDrawQuietly()
         if (kind == 1)
             QCOMPARE(tested.drawnItems(), signalColumns);
     }
+}
+
+// A base station on the WGS84 ellipsoid's axes, so its place is known exactly, and a GPS
+// epoch of two satellites on one signal.
+void ViewsTest::correctionsSummaryOfTheBase_data()
+{
+    constexpr double a = 6378137.0, b = 6356752.314245;
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("z");
+    QTest::addColumn<double>("fixLat"); // NaN: no fix
+    QTest::addColumn<double>("fixHeight");
+    QTest::addColumn<QString>("station");
+    QTest::newRow("equator, east, rover 100 m up")
+        << a << 0.0 << 0.0 << 0.0 << 100.0 << "Station 7 · 0.0000000°N 0.0000000°E 0.000 m (1005) · baseline 0.100 km";
+    QTest::newRow("equator, west, no fix")
+        << 0.0 << -a << 0.0 << qQNaN() << 0.0 << "Station 7 · 0.0000000°N 90.0000000°W 0.000 m (1005)";
+    QTest::newRow("10 m above the south pole, rover on the equator")
+        << 0.0 << 0.0 << -(b + 10) << 0.0 << 0.0 << "Station 7 · 90.0000000°S 0.0000000°E 10.000 m (1005) · baseline 9004.946 km";
+}
+
+void ViewsTest::correctionsSummaryOfTheBase()
+{
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, z);
+    QFETCH(double, fixLat);
+    QFETCH(double, fixHeight);
+    QFETCH(QString, station);
+    CorrectionStatistics statistics;
+    QCOMPARE(correctionsSummary(QString(), statistics.snapshot(0), FixInfo()).split('\n').mid(0, 3),
+             QStringList({"No correction stream", "0 bytes · 0 frames · 0 CRC failures · last frame - s ago",
+                          "Station -"}));
+    Rtcm3StationPosition base;
+    base.stationId = 7;
+    base.ecefX = x;
+    base.ecefY = y;
+    base.ecefZ = z;
+    QByteArray stream = Rtcm3Encoder::stationPosition(base);
+    Rtcm3MsmEpoch epoch;
+    epoch.stationId = 7;
+    for (int prn : {5, 12})
+        epoch.satellites << Rtcm3SatelliteObservation{prn, {Rtcm3SignalObservation{2, 2.2e7, kRtcm3NoRange, 10.0, false, 45.0}}};
+    stream += Rtcm3Encoder::msm4(epoch).value(0);
+    statistics.feed(stream.constData(), stream.size(), 1000);
+    FixInfo fix;
+    if (!qIsNaN(fixLat)) {
+        fix.lat = fixLat;
+        fix.lon = 0.0;
+        fix.heightEllipsoid = fixHeight;
+    }
+    const QStringList lines = correctionsSummary("streaming", statistics.snapshot(1500), fix).split('\n');
+    QCOMPARE(lines.value(0), QString("streaming"));
+    QCOMPARE(lines.value(1), QString("%1 bytes · 2 frames · 0 CRC failures · last frame 0.5 s ago").arg(stream.size()));
+    QCOMPARE(lines.value(2), station);
+    QCOMPARE(lines.mid(3), QStringList({"GPS 1074: 2 satellites, 1 signals"}));
 }
 
 QTEST_MAIN(ViewsTest)

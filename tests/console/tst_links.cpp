@@ -1,5 +1,7 @@
 // The console on shared links: a receiver owned by a real gpsd (gpsfake), and the
 // receiver's bytes re-served to several clients at once.
+#include "rawbyteserver.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -47,9 +49,39 @@ class LinksTest : public QObject
 {
     Q_OBJECT
 private slots:
+    void serveAddresses_data();
+    void serveAddresses();
     void gpsdSentencesReachThePages();
     void servedClientsGetExactlyTheBytesRead();
 };
+
+void LinksTest::serveAddresses_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("address"); // empty: refused
+    QTest::addColumn<int>("port");
+    QTest::newRow("port only: loopback") << "5002" << "127.0.0.1" << 5002;
+    QTest::newRow("every interface") << "0.0.0.0:5002" << "0.0.0.0" << 5002;
+    QTest::newRow("star") << "*:1" << QHostAddress(QHostAddress::Any).toString() << 1;
+    QTest::newRow("IPv6 in brackets") << "[::1]:65535" << "::1" << 65535;
+    QTest::newRow("port too large") << "65536" << "" << 0;
+    QTest::newRow("no number") << "localhost:http" << "" << 0;
+    QTest::newRow("a name, not an address") << "localhost:5002" << "" << 0;
+}
+
+void LinksTest::serveAddresses()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, address);
+    QFETCH(int, port);
+    QHostAddress parsed;
+    quint16 parsedPort = 0;
+    QString error;
+    QCOMPARE(RawByteServer::parseListenAddress(text, &parsed, &parsedPort, &error), !address.isEmpty());
+    QCOMPARE(parsed.toString(), address);
+    QCOMPARE(int(parsedPort), port);
+    QCOMPARE(error.isEmpty(), !address.isEmpty());
+}
 
 // gpsfake plays a real capture again and again into a real gpsd; the console watches
 // gpsd, re-serves what it gets, and reports what its pages took.

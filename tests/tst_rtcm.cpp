@@ -249,22 +249,6 @@ private slots:
         QTEST(countsOf(snapshot).keys(), "types");
     }
 
-    void splitAtEveryByte()
-    {
-        const QByteArray stream = frame(referencePayload(1005, 1, 2, 3, 0)) + frame(msmPayload(1077, 9, false, 0xE0ull << 56, 3u << 30, 0x3F, 588))
-            + frame(referencePayload(1006, -40, 170, 12, 2.5));
-        for (int split = 0; split <= stream.size(); ++split) {
-            CorrectionStatistics statistics;
-            statistics.feed(stream.constData(), split, 0);
-            statistics.feed(stream.constData() + split, stream.size() - split, 1);
-            const CorrectionSnapshot snapshot = statistics.snapshot(1);
-            QCOMPARE(countsOf(snapshot), (QMap<int, qint64>{{1005, 1}, {1006, 1}, {1077, 1}}));
-            QCOMPARE(snapshot.systems[0].satelliteCount, 3);
-            QCOMPARE(snapshot.referenceMessageType, 1006);
-            QCOMPARE(snapshot.skippedBytes, 0);
-        }
-    }
-
     void msmHeader_data()
     {
         QTest::addColumn<int>("type");

@@ -51,8 +51,6 @@ private slots:
     void cleanupTestCase();
     void roverIsFixedWhileTheCasterStreams();
     void headlessReportCountsTheCorrections();
-    void refusalsAreClearAndKeepThePasswordOut_data();
-    void refusalsAreClearAndKeepThePasswordOut();
 
 private:
     void startCaster();
@@ -154,32 +152,6 @@ void CorrectionsTest::headlessReportCountsTheCorrections()
     QVERIFY(corrections["stationId"].isDouble());
     QVERIFY(!errors.contains(kPassword));
     QVERIFY(QFile::exists(pictures.filePath("dock-corrections.png")));
-}
-
-void CorrectionsTest::refusalsAreClearAndKeepThePasswordOut_data()
-{
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<QString>("mountpoint");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("wrong password") << "wr0ng-Pa55" << kMountpoint << "refused user rover: wrong user name or password";
-    QTest::newRow("wrong mountpoint") << kPassword << "NOWHERE" << "mountpoint NOWHERE is not on the caster";
-}
-
-void CorrectionsTest::refusalsAreClearAndKeepThePasswordOut()
-{
-    QFETCH(QString, password);
-    QFETCH(QString, mountpoint);
-    QFETCH(QString, expected);
-    QProcess msgview;
-    msgview.start(MSGVIEW_BINARY, {"--headless", "--mode", "0", "--connect", QString("tcp:127.0.0.1:%1").arg(m_roverPort),
-                                   "--ntrip", ntripUrl(password, m_casterPort, mountpoint), "--duration", "3",
-                                   "--report", "-"});
-    QVERIFY(msgview.waitForFinished(30000));
-    const QByteArray json = msgview.readAllStandardOutput();
-    const QString errors = QString::fromUtf8(msgview.readAllStandardError());
-    QVERIFY2(errors.contains(expected), qPrintable(errors));
-    QVERIFY(!errors.contains(password) && !json.contains(password.toUtf8()));
-    QCOMPARE(QJsonDocument::fromJson(json)["corrections"]["frames"].toInt(), 0);
 }
 
 QTEST_MAIN(CorrectionsTest)

@@ -202,8 +202,10 @@ int main(int argc, char **argv)
             quint16 port = 0;
             QString error;
             if (!RawByteServer::parseListenAddress(parser.value(serveOption), &address, &port, &error)
-                || !session.server().listen(address, port, &error))
-                return fail(error) == 0;
+                || !session.server().listen(address, port, &error)) {
+                fail(error);
+                return false;
+            }
             std::fprintf(stderr, "msgview: serving the receiver's bytes on %s\n",
                          qPrintable(session.server().listenText()));
         }

@@ -244,9 +244,14 @@ bool ReceiverStateData::take(const LineKind &kind, const QString &line, bool set
         ++m_usedReport;
     splitFields(body, m_fields);
     (this->*kind.read)(LineFields(m_fields));
-    // An NTRIP caster choosing a base for us wants the receiver's own GGA.
-    if (kind.read == &ReceiverStateData::readGga)
-        m_latestGga = line.toLatin1();
+    // An NTRIP caster choosing a base for us wants the receiver's own GGA. Written into
+    // the buffer already held: no allocation per sentence unless a copy is out.
+    if (kind.read == &ReceiverStateData::readGga) {
+        m_latestGga.resize(int(line.size()));
+        char *latin1 = m_latestGga.data();
+        for (const QChar c : line)
+            *latin1++ = char(c.unicode());
+    }
     ++m_linesUsed;
     return true;
 }

@@ -1,6 +1,8 @@
 #include "linechecksum.h"
 
 #include <array>
+#include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -98,5 +100,38 @@ bool checkLineChecksum(QString line)
     // either case are fine; anything else fails.
     bool ok = false;
     const uint received = QStringRef(&line, star + 1, line.size() - star - 1).toUInt(&ok, 16);
+    return ok && received == computed;
+}
+
+bool checkLineChecksumBytes(const char *line, int length)
+{
+    if (length < 1 || (line[0] != '$' && line[0] != '#'))
+        return false;
+    const char *star = static_cast<const char *>(memchr(line, '*', size_t(length)));
+    if (!star)
+        return false;
+    // Bytes above 0x7f or zero would read differently once decoded: the string rule
+    // decides those lines.
+    quint32 computed = 0;
+    const bool isSentence = line[0] == '$';
+    for (const char *p = line + 1; p < star; ++p) {
+        const uchar b = uchar(*p);
+        if (b == 0 || b > 0x7f)
+            return checkLineChecksum(QString::fromUtf8(line, length));
+        computed = isSentence ? computed ^ b : kCrcTable[(computed ^ b) & 0xff] ^ (computed >> 8);
+    }
+    // The digits are read by the same conversion as the string rule's, from a view.
+    const int tailLength = int(line + length - star - 1);
+    QChar tail[32];
+    if (tailLength > int(std::size(tail)))
+        return checkLineChecksum(QString::fromUtf8(line, length));
+    for (int i = 0; i < tailLength; ++i) {
+        if (uchar(star[1 + i]) > 0x7f)
+            return checkLineChecksum(QString::fromUtf8(line, length));
+        tail[i] = QLatin1Char(star[1 + i]);
+    }
+    const QString digits = QString::fromRawData(tail, tailLength);
+    bool ok = false;
+    const uint received = digits.toUInt(&ok, 16);
     return ok && received == computed;
 }

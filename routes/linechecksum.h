@@ -7,6 +7,9 @@
 // between the frame character and that '*': an 8-bit XOR for '$' lines, for '#'
 // lines the receiver's CRC-32, which starts at zero and is not inverted at the end.
 bool checkLineChecksum(QString line);
+// The same rule on the bytes of a line as they arrived (the message view reads them as
+// UTF-8), without building a string for a plain ASCII line.
+bool checkLineChecksumBytes(const char *line, int length);
 
 // The receiver's CRC-32 (reflected polynomial 0xEDB88320, zero initial value, no
 // final XOR) of a byte run.

@@ -274,6 +274,7 @@ void ReceiverStateData::samplePosition()
 {
     if (m_basis == ClockBasis::SinceStart || m_fix.quality == FixQuality::NoFix || !m_fix.hasPosition())
         return;
+    ++m_positionSamples;
     const double height = isKnown(m_fix.heightEllipsoid) ? m_fix.heightEllipsoid : m_fix.heightMsl;
     m_positions.add({now(), m_fix.lat, m_fix.lon, height, m_fix.quality});
 }

@@ -42,11 +42,18 @@ public:
     void restartStatistics() { m_positions.restartSinceReset(); }
 
     qint64 now() const;
+    // What the clock is: the time since the start, a time of day (counted from
+    // 1970-01-01 until a date is seen) or a dated receiver time. Finer sources win.
+    enum class ClockBasis { SinceStart, TimeOfDay, Dated };
+    ClockBasis clockBasis() const { return m_basis; }
     const FixInfo &fix() const { return m_fix; }
     const QByteArray &latestGga() const { return m_latestGga; }
     QVector<SatelliteInfo> satellites() const;
     ReceiverSnapshot snapshot() const;
     quint64 linesUsed() const { return m_linesUsed; }
+    // Positions taken so far (one per line that gave a fix with a position and a
+    // receiver time): a change tells that the current epoch has a position of its own.
+    quint64 positionSamples() const { return m_positionSamples; }
 
 private:
     using Reader = void (ReceiverStateData::*)(const LineFields &fields);
@@ -86,8 +93,6 @@ private:
         qint64 reportedMs = 0;
         quint64 report = 0;
     };
-    enum class ClockBasis { SinceStart, TimeOfDay, Dated };
-
     // The clock.
     void takeTimeOfDay(int timeOfDayMs);
     void takeDateTime(const QDate &date, int timeOfDayMs);
@@ -145,6 +150,7 @@ private:
 
     FieldViews m_fields;
     quint64 m_linesUsed = 0;
+    quint64 m_positionSamples = 0;
 
     // The pace of the paced logs: when one was last read (time since start), and the
     // newest one held back since, with its kind.

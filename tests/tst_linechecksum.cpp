@@ -55,6 +55,8 @@ void LineChecksumTest::lines_data()
             + QString::number(bitwiseCrc32("ABCDEF?GHIJKLMN", 0, false), 16) + "\r\n")
         << true;
     // Characters outside Latin-1 count as '?'.
+    // A no-break space (two bytes in UTF-8) is a blank to the digit reading.
+    QTest::newRow("no-break space after digits") << (QString(sentence(gga)).chopped(2) + QChar(0xa0) + "\r\n") << true;
     QTest::newRow("non latin-1 character") << (QString("$A") + QChar(0x4e2d) + "*" + QString::number(quint8('A') ^ quint8('?'), 16) + "\r\n") << true;
 }
 
@@ -63,6 +65,9 @@ void LineChecksumTest::lines()
     QFETCH(QString, line);
     QFETCH(bool, accepted);
     QCOMPARE(checkLineChecksum(line), accepted);
+    // The bytes as they arrive give the same answer (UTF-8, as the message view reads them).
+    const QByteArray bytes = line.toUtf8();
+    QCOMPARE(checkLineChecksumBytes(bytes.constData(), bytes.size()), accepted);
 }
 
 

@@ -8,6 +8,7 @@
 #include "trafficdocks.h"
 #include "receiversession.h"
 #include "receiverstate.h"
+#include "sessionindex.h"
 #include "statereport.h"
 
 #include <QCoreApplication>
@@ -277,4 +278,13 @@ int runSnapshot(MessageViewModules &module, ReceiverState &state, LineTraffic &t
     out << written << " pages and " << views << " views written to " << directory << '\n';
     out.flush();
     return written == pages.size() && views == expectedViews ? 0 : 1;
+}
+
+void replaySeek(MessageViewModules &module, ReceiverState &state, const SeekRebuild &rebuild)
+{
+    state.reset();
+    module.onUpdateBuffer(rebuild.pageMemory);
+    state.feed(rebuild.viewsOnly);
+    module.onUpdateBuffer(rebuild.both);
+    state.feed(rebuild.both);
 }

@@ -12,6 +12,7 @@ class LineTraffic;
 class ReceiverState;
 class ReceiverSession;
 struct CorrectionSnapshot;
+struct SeekRebuild;
 
 // Hands a headless run's bytes to the state and the module (the state first: its clock
 // stamps what the module reports) and returns how many there were.
@@ -44,3 +45,8 @@ bool writeStateReport(const ReceiverState &state, const LineTraffic &traffic, co
 // Saves a picture of the widget as it is into directory/name.png and names the file on
 // out (or says it could not); true when written.
 bool writePicture(QWidget &widget, const QString &directory, const QString &name, QTextStream &out);
+
+// Gives a fresh state and freshly made pages what a seek replays (the pages first their
+// remembered lines, the state first its longer stretch), so that both show what a play
+// from the start to rebuild.endOffset shows.
+void replaySeek(MessageViewModules &module, ReceiverState &state, const SeekRebuild &rebuild);

@@ -44,6 +44,21 @@ struct SeekPlan
     qint64 endOffset = 0;
 };
 
+// The bytes of a seek, read from the recording.
+struct SeekRebuild
+{
+    QByteArray viewsOnly;  // [viewsFrom, pagesFrom): for the receiver state alone
+    QByteArray pageMemory; // the remembered lines: for the pages alone
+    QByteArray both;       // [pagesFrom, endOffset): for the pages and the state
+    qint64 endOffset = 0;
+};
+bool readSeekRebuild(QIODevice &recording, const SeekPlan &plan, SeekRebuild *rebuild, QString *error);
+
+// A receiver time typed by a user: "HH:MM:SS[.s]" (timeOfDayOnly) or an ISO 8601 date
+// and time, UTC unless it says otherwise ("2024-05-20T14:32:05", "...Z"). As ms
+// (since 1970-01-01, or since midnight for a time of day); false for anything else.
+bool parseReceiverTime(const QString &text, qint64 *ms, bool *timeOfDayOnly);
+
 // The epochs of a recorded session, in file order: each begins at the first line that
 // carries a receiver time other than the epoch before it (the first one at the start
 // of the file), with its UTC time, fix quality and satellites used as the receiver
@@ -83,8 +98,9 @@ public:
 
     // The epoch whose bytes hold offset (the last one beginning at or before it).
     int epochAt(qint64 offset) const;
-    // The first epoch from `from` on (file order) whose time is at or after timeMs; with
-    // timeOfDayOnly the date is ignored. -1 when there is none.
+    // The epoch where receiver time reaches timeMs (the first at or past it, after one
+    // short of it), searched from `from` on and then from the start; with timeOfDayOnly
+    // the date is ignored. -1 when the recording never reaches it.
     int findTime(qint64 timeMs, bool timeOfDayOnly, int from = 0) const;
 
     const QVector<SessionMarker> &markers() const { return m_markers; }

@@ -105,8 +105,13 @@ public:
     template <typename OnLine>
     void feed(const QByteArray &data, OnLine &&onLine)
     {
-        takeLines(m_buffer, m_scanFrom, m_droppingLongLine, m_maxLineBytes, data, onLine,
-                  [](const char *, int, bool) {});
+        feed(data, onLine, [](const char *, int, bool) {});
+    }
+    // With the stretches of lines too long to offer (onDropped(begin, length, startsLine)).
+    template <typename OnLine, typename OnDropped>
+    void feed(const QByteArray &data, OnLine &&onLine, OnDropped &&onDropped)
+    {
+        takeLines(m_buffer, m_scanFrom, m_droppingLongLine, m_maxLineBytes, data, onLine, onDropped);
     }
     void clear()
     {

@@ -1,0 +1,210 @@
+#include "headlessreplay.h"
+#include "messageviewmodules.h"
+#include "receiverstate.h"
+#include "sessionindex.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QStackedWidget>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+// Every fault the simulator knows, often enough that seeks land near damaged lines.
+const QStringList kFaults = {"--corrupt", "0.02", "--truncate", "0.02", "--drop-crlf", "0.02", "--garbage", "0.02"};
+
+QString record(const QString &path, int mode, int seconds, const QStringList &extra = {})
+{
+    QProcess rxsim;
+    rxsim.setStandardOutputFile(path);
+    rxsim.start(RXSIM_BINARY, QStringList{"--mode", QString::number(mode), "--duration", QString::number(seconds),
+                                          "--seed", "7", "--as-fast-as-possible", "--start", "2024-05-20T23:58:00Z"}
+                                  + kFaults + extra);
+    if (!rxsim.waitForFinished(60000) || rxsim.exitCode() != 0)
+        return QStringLiteral("rxsim failed: ") + rxsim.readAllStandardError();
+    return QString();
+}
+
+// A module whose every page is on screen (each its own offscreen window), so that each
+// page shows what it takes, as the page the user looks at does.
+struct ShownModule
+{
+    explicit ShownModule(int mode) : module(&stack, QStringLiteral("EN"))
+    {
+        module.addItemToTree(mode);
+        while (stack.count() > 0) {
+            QWidget *page = stack.widget(0);
+            stack.removeWidget(page);
+            page->setParent(nullptr);
+            page->show();
+            pages.emplace_back(page);
+        }
+    }
+    ~ShownModule()
+    {
+        // The module deletes its pages itself.
+        for (auto &page : pages)
+            page.release();
+    }
+
+    // Every text a page shows (tables, count boxes, labels) and the marks of the tree.
+    QStringList contents()
+    {
+        QStringList texts;
+        for (const auto &page : pages) {
+            texts << QStringLiteral("page %1").arg(page->objectName());
+            for (const QTableWidget *table : page->findChildren<QTableWidget *>()) {
+                texts << QStringLiteral("rows %1").arg(table->rowCount());
+                for (int row = 0; row < table->rowCount(); ++row) {
+                    for (int column = 0; column < table->columnCount(); ++column) {
+                        if (const QTableWidgetItem *item = table->item(row, column))
+                            texts << QStringLiteral("%1,%2 %3").arg(row).arg(column).arg(item->text());
+                    }
+                }
+            }
+            for (const QLineEdit *edit : page->findChildren<QLineEdit *>())
+                texts << edit->text();
+            for (const QLabel *label : page->findChildren<QLabel *>())
+                texts << label->text();
+        }
+        QTreeWidget *tree = module.getTreeWidget();
+        for (int top = 0; top < tree->topLevelItemCount(); ++top) {
+            for (int child = 0; child < tree->topLevelItem(top)->childCount(); ++child) {
+                const QTreeWidgetItem *item = tree->topLevelItem(top)->child(child);
+                texts << item->text(0) + QLatin1Char(' ') + item->foreground(0).color().name();
+            }
+        }
+        return texts;
+    }
+
+    QStackedWidget stack;
+    MessageViewModules module;
+    std::vector<std::unique_ptr<QWidget>> pages;
+};
+
+QString firstDifference(const QStringList &expected, const QStringList &actual)
+{
+    QString page;
+    for (int i = 0; i < std::min(expected.size(), actual.size()); ++i) {
+        if (expected.at(i).startsWith(QLatin1String("page ")))
+            page = expected.at(i);
+        if (expected.at(i) != actual.at(i))
+            return QStringLiteral("%1: played \"%2\", sought \"%3\"").arg(page, expected.at(i), actual.at(i));
+    }
+    return expected.size() == actual.size() ? QString()
+                                            : QStringLiteral("%1 against %2 texts").arg(expected.size()).arg(actual.size());
+}
+
+QString fixText(const FixInfo &fix)
+{
+    return QStringLiteral("%1 %2 %3 %4 %5 %6 %7")
+        .arg(fix.utc.toString(Qt::ISODateWithMs))
+        .arg(fix.lat, 0, 'f', 9)
+        .arg(fix.lon, 0, 'f', 9)
+        .arg(fixQualityName(fix.quality))
+        .arg(fix.satellitesUsed)
+        .arg(fix.hdop)
+        .arg(fix.sdHeight);
+}
+
+QStringList satelliteTexts(const ReceiverState &state)
+{
+    QStringList texts;
+    for (const SatelliteInfo &satellite : state.satellites()) {
+        QString text = QStringLiteral("%1%2 %3 %4 %5").arg(systemLetter(satellite.system)).arg(satellite.prn)
+                           .arg(satellite.elevation).arg(satellite.azimuth).arg(satellite.used);
+        // Without the C/N0: the state reads the long observation logs at a pace of wall
+        // time, so which source gave the last value differs between any two plays.
+        for (const SignalInfo &signal : satellite.trackedSignals)
+            text += QLatin1Char(' ') + signal.name;
+        texts << text;
+    }
+    return texts;
+}
+
+} // namespace
+
+class PlayerTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void seekShowsWhatPlayingShows_data();
+    void seekShowsWhatPlayingShows();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void PlayerTest::seekShowsWhatPlayingShows_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("mode");
+    QVERIFY(m_dir.isValid());
+    // Each product mode's text stream, damaged, across midnight (the date changes).
+    for (const auto &[mode, seconds] : {std::pair{0, 200}, {1, 150}, {2, 150}, {7, 200}}) {
+        const QString path = m_dir.filePath(QStringLiteral("mode%1.log").arg(mode));
+        const QString failure = record(path, mode, seconds);
+        QVERIFY2(failure.isEmpty(), qPrintable(failure));
+        QTest::addRow("rxsim mode %d", mode) << path << mode;
+    }
+    // A real receiver's NMEA 4.11 stream (several signals per satellite) and an old one.
+    QTest::newRow("NMEA 4.11 receiver") << QStringLiteral(TEST_DATA_DIR "/ch-4711.log") << 0;
+    QTest::newRow("NMEA 2 receiver") << QStringLiteral(TEST_DATA_DIR "/GPSmap-76S.log") << 0;
+    QTest::newRow("multi-GNSS receiver, 70 s") << QStringLiteral(TEST_DATA_DIR "/ericsson-gru04-02-70sec.log") << 0;
+}
+
+// For epochs spread over the recording, and at its edges: every page's texts, the
+// tree's marks and the receiver state after a seek equal those after playing the
+// recording from its start to the same byte.
+void PlayerTest::seekShowsWhatPlayingShows()
+{
+    QFETCH(QString, path);
+    QFETCH(int, mode);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    SessionIndex index;
+    QVERIFY(index.build(file));
+    QVERIFY2(index.epochCount() > 10, qPrintable(QString::number(index.epochCount())));
+
+    const int count = index.epochCount();
+    QVector<int> epochs = {0, 1, 9, 10, 11, 29, 30, 31, count / 3, count / 2, count - 2, count - 1};
+    for (int &epoch : epochs)
+        epoch = std::min(epoch, count - 1);
+    std::sort(epochs.begin(), epochs.end());
+    epochs.erase(std::unique(epochs.begin(), epochs.end()), epochs.end());
+
+    ShownModule played(mode);
+    ReceiverState playedState;
+    qint64 fed = 0;
+    for (const int epoch : epochs) {
+        const qint64 end = index.epochEnd(epoch);
+        QVERIFY(file.seek(fed));
+        const QByteArray bytes = file.read(end - fed);
+        played.module.onUpdateBuffer(bytes);
+        playedState.feed(bytes);
+        fed = end;
+
+        ShownModule sought(mode);
+        ReceiverState soughtState;
+        SeekRebuild rebuild;
+        QString error;
+        QVERIFY2(readSeekRebuild(file, index.planSeek(epoch), &rebuild, &error), qPrintable(error));
+        QCOMPARE(rebuild.endOffset, end);
+        replaySeek(sought.module, soughtState, rebuild);
+
+        const QString difference = firstDifference(played.contents(), sought.contents());
+        QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("epoch %1: %2").arg(epoch).arg(difference)));
+        QCOMPARE(fixText(soughtState.fix()), fixText(playedState.fix()));
+        QCOMPARE(satelliteTexts(soughtState), satelliteTexts(playedState));
+    }
+}
+
+QTEST_MAIN(PlayerTest)
+#include "tst_player.moc"

@@ -150,3 +150,22 @@ bool epochSpan(const SessionIndex &index, const QString &from, const QString &to
     }
     return true;
 }
+
+bool exportSession(QIODevice &recording, const SessionIndex &index, const QString &format, const QString &from,
+                   const QString &to, const QString &name, QIODevice &out, QString *error)
+{
+    TrackFormat trackFormat = TrackFormat::Csv;
+    const bool raw = format.compare(QLatin1String("raw"), Qt::CaseInsensitive) == 0;
+    if (!raw && !parseTrackFormat(format, &trackFormat)) {
+        *error = QStringLiteral("unknown export format \"%1\" (csv, gpx, kml or raw)").arg(format);
+        return false;
+    }
+    int first = 0, last = 0;
+    if (!epochSpan(index, from, to, &first, &last, error))
+        return false;
+    if (raw)
+        return copyEpochs(recording, index, first, last, out, error);
+    QVector<TrackPoint> points;
+    return collectTrack(recording, index, first, last, &points, error)
+        && writeTrack(out, trackFormat, points, name, error);
+}

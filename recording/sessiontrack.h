@@ -20,3 +20,8 @@ bool copyEpochs(QIODevice &recording, const SessionIndex &index, int first, int 
 // or `to` comes before `from`.
 bool epochSpan(const SessionIndex &index, const QString &from, const QString &to, int *first, int *last,
                QString *reason);
+
+// The recording's epochs between two typed times (epochSpan) written to out as "csv",
+// "gpx", "kml" (their positions) or "raw" (their bytes); false and a reason otherwise.
+bool exportSession(QIODevice &recording, const SessionIndex &index, const QString &format, const QString &from,
+                   const QString &to, const QString &name, QIODevice &out, QString *error);

@@ -15,15 +15,20 @@
 namespace {
 
 constexpr qint64 kStartMs = 1716215525250; // 2024-05-20 14:32:05.250 UTC
-const QString kQualityCodes = QStringLiteral("NSDFX");
-const FixQuality kCodedQualities[] = {FixQuality::NoFix, FixQuality::Single, FixQuality::Dgnss,
-                                      FixQuality::RtkFloat, FixQuality::RtkFixed};
+const QString kCodes = QStringLiteral("NSDFX"); // no fix, single, DGNSS, RTK float, RTK fixed
 
-// One epoch a second per letter of codes, N no fix, S single, D DGNSS, F float, X fixed.
+FixQuality coded(QChar code)
+{
+    static const FixQuality qualities[] = {FixQuality::NoFix, FixQuality::Single, FixQuality::Dgnss,
+                                           FixQuality::RtkFloat, FixQuality::RtkFixed};
+    return qualities[kCodes.indexOf(code)];
+}
+
+// One epoch a second per letter of codes.
 void fillIndex(SessionIndex &index, const QString &codes)
 {
     for (int epoch = 0; epoch < codes.size(); ++epoch)
-        index.appendEpoch(epoch * 100, kStartMs + epoch * 1000, kCodedQualities[kQualityCodes.indexOf(codes[epoch])], 8);
+        index.appendEpoch(epoch * 100, kStartMs + epoch * 1000, coded(codes[epoch]), 8);
     index.setFileSize(codes.size() * 100);
 }
 
@@ -45,8 +50,7 @@ void mouse(QWidget *widget, QEvent::Type type, int x)
 // A timeline whose band is bandWidth columns wide.
 void resizeBand(TimelineWidget &timeline, int bandWidth)
 {
-    timeline.resize(200, timeline.sizeHint().height());
-    timeline.resize(bandWidth + 200 - timeline.bandRect().width(), timeline.sizeHint().height());
+    timeline.resize(bandWidth + timeline.width() - timeline.bandRect().width(), timeline.sizeHint().height());
 }
 
 } // namespace
@@ -57,19 +61,13 @@ class TimelineTest : public QObject
 private slots:
     void worstQualityPerColumn_data();
     void worstQualityPerColumn();
-    void mouseSeeksOnceOnRelease_data();
-    void mouseSeeksOnceOnRelease();
-    void keys_data();
-    void keys();
+    void mouseAndKeys_data();
+    void mouseAndKeys();
     void hoverNamesNearbyChanges();
     void barControlsSignal_data();
     void barControlsSignal();
-    void speeds_data();
-    void speeds();
     void indexingState_data();
     void indexingState();
-    void timeTexts_data();
-    void timeTexts();
 };
 
 void TimelineTest::worstQualityPerColumn_data()
@@ -98,8 +96,7 @@ void TimelineTest::worstQualityPerColumn()
     QString summarised;
     const TimelineSummary summary = TimelineSummary::build(index, bandWidth);
     for (FixQuality quality : summary.worstQuality())
-        summarised += kQualityCodes[int(std::find(std::begin(kCodedQualities), std::end(kCodedQualities), quality) -
-                                        std::begin(kCodedQualities))];
+        summarised += *std::find_if(kCodes.begin(), kCodes.end(), [&](QChar code) { return coded(code) == quality; });
     QCOMPARE(summarised, columns);
 
     TimelineWidget timeline;
@@ -109,85 +106,67 @@ void TimelineTest::worstQualityPerColumn()
     const QImage image = timeline.grab().toImage();
     const QRect band = timeline.bandRect();
     for (int column = 0; column < columns.size(); ++column) {
-        const QColor expected = ViewPalette::fixQualityColour(kCodedQualities[kQualityCodes.indexOf(columns[column])]);
-        QCOMPARE(image.pixelColor(band.left() + column, band.center().y()), expected);
+        QCOMPARE(image.pixelColor(band.left() + column, band.center().y()),
+                 ViewPalette::fixQualityColour(coded(columns[column])));
     }
 }
 
-void TimelineTest::mouseSeeksOnceOnRelease_data()
+void TimelineTest::mouseAndKeys_data()
 {
     QTest::addColumn<int>("epochs");
+    QTest::addColumn<int>("key"); // 0: press at pressColumn, drag, let go at releaseColumn
     QTest::addColumn<int>("pressColumn");
     QTest::addColumn<int>("releaseColumn");
-    QTest::addColumn<int>("epoch");
-    QTest::newRow("first pixel") << 1000 << 0 << 0 << 0;
-    QTest::newRow("last pixel") << 1000 << 9 << 9 << 999;
-    QTest::newRow("dragged to the last pixel") << 1000 << 0 << 9 << 999;
-    QTest::newRow("let go left of the strip") << 1000 << 5 << -30 << 0;
-    QTest::newRow("let go right of the strip") << 1000 << 5 << 40 << 999;
-    QTest::newRow("fewer epochs, last pixel") << 3 << 0 << 9 << 2;
-    QTest::newRow("fewer epochs, middle") << 3 << 0 << 4 << 1;
-    QTest::newRow("one epoch") << 1 << 9 << 0 << 0;
+    QTest::addColumn<QStringList>("requests");
+    QTest::newRow("first pixel") << 1000 << 0 << 0 << 0 << QStringList{"seek 0"};
+    QTest::newRow("last pixel") << 1000 << 0 << 9 << 9 << QStringList{"seek 999"};
+    QTest::newRow("dragged to the last pixel") << 1000 << 0 << 0 << 9 << QStringList{"seek 999"};
+    QTest::newRow("let go left of the strip") << 1000 << 0 << 5 << -30 << QStringList{"seek 0"};
+    QTest::newRow("let go right of the strip") << 1000 << 0 << 5 << 40 << QStringList{"seek 999"};
+    QTest::newRow("fewer epochs, last pixel") << 3 << 0 << 0 << 9 << QStringList{"seek 2"};
+    QTest::newRow("fewer epochs, middle") << 3 << 0 << 0 << 4 << QStringList{"seek 1"};
+    QTest::newRow("one epoch") << 1 << 0 << 9 << 0 << QStringList{"seek 0"};
+    QTest::newRow("left key") << 42 << int(Qt::Key_Left) << 0 << 0 << QStringList{"step -1"};
+    QTest::newRow("right key") << 42 << int(Qt::Key_Right) << 0 << 0 << QStringList{"step 1"};
+    QTest::newRow("home key") << 42 << int(Qt::Key_Home) << 0 << 0 << QStringList{"seek 0"};
+    QTest::newRow("end key") << 42 << int(Qt::Key_End) << 0 << 0 << QStringList{"seek 41"};
 }
 
-void TimelineTest::mouseSeeksOnceOnRelease()
+void TimelineTest::mouseAndKeys()
 {
     QFETCH(int, epochs);
+    QFETCH(int, key);
     QFETCH(int, pressColumn);
     QFETCH(int, releaseColumn);
-    QFETCH(int, epoch);
+    QFETCH(QStringList, requests);
     SessionIndex index;
     fillIndex(index, QString(epochs, QLatin1Char('X')));
     TimelineWidget timeline;
     timeline.setIndex(&index);
     resizeBand(timeline, 10);
-    QSignalSpy seeks(&timeline, &TimelineWidget::seekRequested);
+    QStringList requested;
+    connect(&timeline, &TimelineWidget::seekRequested, [&](int epoch) { requested << QStringLiteral("seek %1").arg(epoch); });
+    connect(&timeline, &TimelineWidget::stepRequested, [&](int step) { requested << QStringLiteral("step %1").arg(step); });
+    if (key != 0) {
+        QTest::keyClick(&timeline, Qt::Key(key));
+        QCOMPARE(requested, requests);
+        return;
+    }
     const int left = timeline.bandRect().left();
-
     mouse(&timeline, QEvent::MouseButtonPress, left + pressColumn);
     mouse(&timeline, QEvent::MouseMove, left + (pressColumn + releaseColumn) / 2);
     mouse(&timeline, QEvent::MouseMove, left + releaseColumn);
-    QCOMPARE(seeks.count(), 0);
+    QVERIFY(requested.isEmpty());
     mouse(&timeline, QEvent::MouseButtonRelease, left + releaseColumn);
-    QCOMPARE(seeks.count(), 1);
-    QCOMPARE(seeks.first().first().toInt(), epoch);
-    QCOMPARE(timeline.position(), epoch);
     mouse(&timeline, QEvent::MouseMove, left);
-    QCOMPARE(seeks.count(), 1);
-}
-
-void TimelineTest::keys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("step");
-    QTest::addColumn<int>("seek");
-    QTest::newRow("left") << int(Qt::Key_Left) << -1 << -1;
-    QTest::newRow("right") << int(Qt::Key_Right) << 1 << -1;
-    QTest::newRow("home") << int(Qt::Key_Home) << 0 << 0;
-    QTest::newRow("end") << int(Qt::Key_End) << 0 << 41;
-}
-
-void TimelineTest::keys()
-{
-    QFETCH(int, key);
-    QFETCH(int, step);
-    QFETCH(int, seek);
-    SessionIndex index;
-    fillIndex(index, QString(42, QLatin1Char('X')));
-    TimelineWidget timeline;
-    timeline.setIndex(&index);
-    QSignalSpy steps(&timeline, &TimelineWidget::stepRequested);
-    QSignalSpy seeks(&timeline, &TimelineWidget::seekRequested);
-    QTest::keyClick(&timeline, Qt::Key(key));
-    QCOMPARE(steps.isEmpty() ? 0 : steps.takeFirst().first().toInt(), step);
-    QCOMPARE(seeks.isEmpty() ? -1 : seeks.takeFirst().first().toInt(), seek);
-    QVERIFY(steps.isEmpty() && seeks.isEmpty());
+    QCOMPARE(requested, requests);
+    QCOMPARE(QStringLiteral("seek %1").arg(timeline.position()), requests.first());
 }
 
 void TimelineTest::hoverNamesNearbyChanges()
 {
     SessionIndex index;
-    fillIndex(index, manyFixed(100, {{50, 'F'}}));
+    fillIndex(index, QString(100, QLatin1Char('X')));
     index.appendMarker({50, SessionMarker::Kind::Quality, int(FixQuality::RtkFloat)});
     TimelineWidget timeline;
     timeline.setIndex(&index);
@@ -209,6 +188,11 @@ void TimelineTest::barControlsSignal_data()
     QTest::newRow("go to") << "goToEdit" << QByteArray(SIGNAL(jumpRequested(QString))) << " 14:40:00"
                            << QVariantList{QStringLiteral("14:40:00")};
     QTest::newRow("go to nothing") << "goToEdit" << QByteArray(SIGNAL(jumpRequested(QString))) << "  " << QVariantList{};
+    const QByteArray speed(SIGNAL(speedChosen(double)));
+    QTest::newRow("slowest") << "speedBox" << speed << "0.1x" << QVariantList{0.1};
+    QTest::newRow("quarter") << "speedBox" << speed << "0.25x" << QVariantList{0.25};
+    QTest::newRow("fastest factor") << "speedBox" << speed << "100x" << QVariantList{100.0};
+    QTest::newRow("as fast as possible") << "speedBox" << speed << "as fast as possible" << QVariantList{0.0};
 }
 
 void TimelineTest::barControlsSignal()
@@ -225,6 +209,9 @@ void TimelineTest::barControlsSignal()
     if (auto *button = bar.findChild<QToolButton *>(control)) {
         for (int click = 0; click < arguments.size(); ++click)
             button->click();
+    } else if (auto *box = bar.findChild<QComboBox *>(control)) {
+        QCOMPARE(box->currentText(), QStringLiteral("1x"));
+        emit box->activated(box->findText(typed));
     } else {
         auto *edit = bar.findChild<QLineEdit *>(control);
         QTest::keyClicks(edit, typed);
@@ -236,39 +223,15 @@ void TimelineTest::barControlsSignal()
     QCOMPARE(emitted, arguments);
 }
 
-void TimelineTest::speeds_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("factor");
-    QTest::newRow("slowest") << "0.1x" << 0.1;
-    QTest::newRow("quarter") << "0.25x" << 0.25;
-    QTest::newRow("fastest factor") << "100x" << 100.0;
-    QTest::newRow("as fast as possible") << "as fast as possible" << 0.0;
-}
-
-void TimelineTest::speeds()
-{
-    QFETCH(QString, text);
-    QFETCH(double, factor);
-    PlayerBar bar;
-    auto *box = bar.findChild<QComboBox *>(QStringLiteral("speedBox"));
-    QCOMPARE(box->currentText(), QStringLiteral("1x"));
-    QSignalSpy chosen(&bar, &PlayerBar::speedChosen);
-    const int row = box->findText(text);
-    QVERIFY(row >= 0);
-    emit box->activated(row);
-    QCOMPARE(chosen.count(), 1);
-    QCOMPARE(chosen.first().first().toDouble(), factor);
-}
-
 void TimelineTest::indexingState_data()
 {
     QTest::addColumn<int>("epochs");
     QTest::addColumn<bool>("finished");
     QTest::addColumn<bool>("usable");
-    QTest::newRow("indexing") << 3 << false << false;
-    QTest::newRow("finished") << 3 << true << true;
-    QTest::newRow("finished empty") << 0 << true << false;
+    QTest::addColumn<QString>("lastTime"); // a hand-built index has no dates
+    QTest::newRow("indexing") << 3 << false << false << "14:32:07.2 UTC";
+    QTest::newRow("finished") << 3 << true << true << "14:32:07.2 UTC";
+    QTest::newRow("finished empty") << 0 << true << false << "";
 }
 
 void TimelineTest::indexingState()
@@ -276,6 +239,7 @@ void TimelineTest::indexingState()
     QFETCH(int, epochs);
     QFETCH(bool, finished);
     QFETCH(bool, usable);
+    QFETCH(QString, lastTime);
     SessionIndex index;
     fillIndex(index, QString(epochs, QLatin1Char('X')));
     PlayerBar bar;
@@ -295,33 +259,8 @@ void TimelineTest::indexingState()
     for (const char *name : {"playButton", "stepBackButton", "stepForwardButton", "goToEdit"})
         QVERIFY2(bar.findChild<QWidget *>(QLatin1String(name))->isEnabled() == usable, name);
     QVERIFY(bar.findChild<QWidget *>(QStringLiteral("speedBox"))->isEnabled());
-}
-
-void TimelineTest::timeTexts_data()
-{
-    QTest::addColumn<bool>("withDate");
-    QTest::addColumn<bool>("withTenths");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("time") << false << false << "14:32:05";
-    QTest::newRow("date") << true << false << "2024-05-20 14:32:05";
-    QTest::newRow("date and tenths") << true << true << "2024-05-20 14:32:05.2";
-}
-
-void TimelineTest::timeTexts()
-{
-    QFETCH(bool, withDate);
-    QFETCH(bool, withTenths);
-    QFETCH(QString, text);
-    QCOMPARE(TimelineWidget::timeText(kStartMs, withDate, withTenths), text);
-    if (withDate)
-        return;
-    // A hand-built index has no dates: the bar shows the time of day.
-    SessionIndex index;
-    fillIndex(index, QStringLiteral("XX"));
-    PlayerBar bar;
-    bar.setIndex(&index);
-    bar.setPosition(1);
-    QCOMPARE(bar.findChild<QLabel *>(QStringLiteral("timeLabel"))->text(), QStringLiteral("14:32:06.2 UTC"));
+    bar.setPosition(epochs - 1);
+    QCOMPARE(bar.findChild<QLabel *>(QStringLiteral("timeLabel"))->text(), lastTime);
 }
 
 QTEST_MAIN(TimelineTest)

@@ -67,6 +67,7 @@ PlayerBar::PlayerBar(QWidget *parent) : QWidget(parent)
     m_middle->addWidget(m_timeline);
     m_middle->addWidget(m_indexingRow);
     m_middle->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_middle->setMinimumWidth(m_timeline->minimumSizeHint().width() * 3);
 
     m_timeLabel = new QLabel(this);
     m_timeLabel->setObjectName(QStringLiteral("timeLabel"));
@@ -78,6 +79,9 @@ PlayerBar::PlayerBar(QWidget *parent) : QWidget(parent)
     m_goToEdit->setPlaceholderText(tr("HH:MM:SS or 2024-05-20T14:32:05"));
     m_goToEdit->setToolTip(tr("Go to a time of the recording (Enter)"));
     m_goToEdit->setClearButtonEnabled(true);
+    // The timeline takes the room; the edit only what its hint needs.
+    m_goToEdit->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_goToEdit->setMinimumWidth(m_goToEdit->fontMetrics().horizontalAdvance(m_goToEdit->placeholderText()) + 32);
     m_messageLabel = new QLabel(this);
     m_messageLabel->setObjectName(QStringLiteral("messageLabel"));
 

@@ -4,6 +4,7 @@
 #include "messageviewmodules.h"
 #include "receiversession.h"
 #include "receiverstate.h"
+#include "sessiontrack.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -56,6 +57,34 @@ int refuseStrayArguments(const QCommandLineParser &parser)
 {
     const QString argument = parser.positionalArguments().constFirst();
     return fail(QStringLiteral("unexpected argument %1 (to replay a recording: --replay %1)").arg(argument));
+}
+
+// One pass to index the recording, a second over the span to export.
+int exportRecording(const QString &path, const QString &format, const QString &from, const QString &to,
+                    const QString &outputPath)
+{
+    if (path.isEmpty() || path == QLatin1String("-"))
+        return fail(QStringLiteral("--export needs a recorded file: --replay FILE"));
+    if (outputPath.isEmpty())
+        return fail(QStringLiteral("--export needs somewhere to write: -o FILE ('-': standard output)"));
+    QFile recording(path);
+    if (!recording.open(QIODevice::ReadOnly))
+        return fail(QStringLiteral("cannot open %1: %2").arg(path, recording.errorString()));
+    SessionIndex index;
+    QString error;
+    if (!index.build(recording, nullptr, {}, &error))
+        return fail(QStringLiteral("cannot read %1: %2").arg(path, error));
+    QFile out;
+    if (!(outputPath == QLatin1String("-") ? out.open(stdout, QIODevice::WriteOnly)
+                                           : (out.setFileName(outputPath), out.open(QIODevice::WriteOnly))))
+        return fail(QStringLiteral("cannot write %1: %2").arg(outputPath, out.errorString()));
+    if (!exportSession(recording, index, format, from, to, QFileInfo(path).completeBaseName(), out, &error)) {
+        out.close();
+        if (outputPath != QLatin1String("-"))
+            out.remove();
+        return fail(error);
+    }
+    return 0;
 }
 
 } // namespace
@@ -119,9 +148,25 @@ int main(int argc, char **argv)
         QStringLiteral("ntrip-gga"),
         QStringLiteral("Send the receiver's position (GGA) to the caster every SECONDS (default 10; 0: never)."),
         QStringLiteral("SECONDS"), QStringLiteral("10"));
+    const QCommandLineOption exportOption(
+        QStringLiteral("export"),
+        QStringLiteral("Export the recording given with --replay, without a window: its positions as csv, gpx or kml "
+                       "(a track coloured by fix quality), or raw (its bytes, a recording of its own). "
+                       "Needs --output."),
+        QStringLiteral("FORMAT"));
+    const QCommandLineOption outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
+                                          QStringLiteral("Where --export writes ('-': standard output)."),
+                                          QStringLiteral("FILE"));
+    const QCommandLineOption fromOption(
+        QStringLiteral("from"),
+        QStringLiteral("With --export: start where the receiver's UTC reaches TIME (HH:MM:SS or 2024-05-20T14:32:05)."),
+        QStringLiteral("TIME"));
+    const QCommandLineOption toOption(QStringLiteral("to"),
+                                      QStringLiteral("With --export: end with the epoch at TIME (receiver UTC)."),
+                                      QStringLiteral("TIME"));
     parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, demoOption,
                        headlessOption, snapshotOption, reportOption, durationOption, serveOption, ntripOption,
-                       ntripGgaOption});
+                       ntripGgaOption, exportOption, outputOption, fromOption, toOption});
 
     // Help and version are answered before a widget application looks for a display,
     // and headless runs choose the offscreen platform before it does. Qt's own options
@@ -137,6 +182,11 @@ int main(int argc, char **argv)
     }
     if (understood && !parser.positionalArguments().isEmpty())
         return refuseStrayArguments(parser);
+    if (understood && parser.isSet(exportOption)) {
+        QCoreApplication core(argc, argv);
+        return exportRecording(parser.value(replayOption), parser.value(exportOption), parser.value(fromOption),
+                               parser.value(toOption), parser.value(outputOption));
+    }
     const auto runsHeadless = [&] {
         return parser.isSet(headlessOption) || parser.isSet(snapshotOption) || parser.isSet(reportOption);
     };
@@ -264,18 +314,18 @@ int main(int argc, char **argv)
     window.show();
     if (parser.isSet(recordOption))
         window.startRecording(parser.value(recordOption));
-    if (!connection) {
-        const QString address = !parser.isSet(replayOption) ? QStringLiteral("file:%1@%2").arg(
-                                    QString::fromLatin1(kDemoSession), parser.value(rateOption))
-            : parser.value(replayOption) == QLatin1String("-")
-            ? QStringLiteral("stdin")
-            : QStringLiteral("file:%1@%2").arg(parser.value(replayOption), parser.value(rateOption));
-        QString error;
-        connection = ReceiverConnection::fromAddress(address, &error);
+    const QString replayPath = parser.isSet(replayOption) ? parser.value(replayOption) : QString::fromLatin1(kDemoSession);
+    bool rateOk = false;
+    const int rate = parser.value(rateOption).toInt(&rateOk);
+    if (!rateOk || rate < 0)
+        return fail(QStringLiteral("--rate needs a whole number of bytes per second, 0 or more"));
+    if (!connection && replayPath != QLatin1String("-")) {
+        window.openRecording(replayPath, rate);
+    } else {
         if (!connection)
-            return fail(error);
+            connection = std::make_unique<StdinConnection>();
+        window.connectTo(std::move(connection));
     }
-    window.connectTo(std::move(connection));
     if (caster)
         window.startCorrections(*caster, ggaSeconds);
     return app.exec();

@@ -4,6 +4,10 @@
 #include "linetraffic.h"
 #include "messageviewmodules.h"
 #include "ntripdialog.h"
+#include "playerbar.h"
+#include "recordingplayer.h"
+#include "headlessreplay.h"
+#include "sessiontrack.h"
 #include "receiverdocks.h"
 #include "trafficdocks.h"
 
@@ -18,6 +22,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QInputDialog>
@@ -29,6 +34,7 @@
 #include <QSerialPortInfo>
 #include <QSettings>
 #include <QSplitter>
+#include <QToolBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTreeWidget>
@@ -91,6 +97,7 @@ MainWindow::MainWindow(const QString &language, int mode, QWidget *parent)
     m_docks = new ReceiverDocks(m_state, *this);
     m_trafficDocks = new TrafficDocks(*m_traffic, *this);
     createCorrectionsDock();
+    createPlayerBar();
     buildMenus();
     resize(1600, 1000);
     // Where the user left the window and its docks.
@@ -145,7 +152,8 @@ void MainWindow::buildMenus()
     connectionMenu->addAction(tr("&gpsd..."), this, [this] {
         chooseNetworkPeer(QStringLiteral("gpsd"), tr("gpsd"), tr("A receiver that gpsd owns (host or host:port)"));
     });
-    connectionMenu->addAction(tr("&Replay file..."), this, &MainWindow::chooseReplayFile);
+    connectionMenu->addAction(tr("&Replay file..."), this, &MainWindow::chooseReplayFile, QKeySequence::Open);
+    connectionMenu->addAction(tr("&Export recording..."), this, &MainWindow::exportRecording);
     connectionMenu->addAction(tr("Standard &input"), this, [this] { connectTo(std::make_unique<StdinConnection>()); });
     connectionMenu->addSeparator();
     m_pauseAction = connectionMenu->addAction(tr("&Pause replay"));
@@ -159,6 +167,15 @@ void MainWindow::buildMenus()
             forgetReceiver();
             connection()->restart();
         }
+    });
+    connectionMenu->addAction(tr("&Go to time..."), this, [this] {
+        if (!m_player || !m_player->index())
+            return;
+        bool ok = false;
+        const QString text = QInputDialog::getText(this, tr("Go to time"), tr("Receiver time (HH:MM:SS or 2024-05-20T14:32:05)"),
+                                                   QLineEdit::Normal, QString(), &ok);
+        if (ok)
+            goToTime(text);
     });
     connectionMenu->addAction(tr("&Disconnect"), this, &MainWindow::disconnectReceiver);
     connectionMenu->addSeparator();
@@ -284,7 +301,156 @@ void MainWindow::connectTo(std::unique_ptr<ReceiverConnection> connection)
     disconnectReceiver();
     forgetReceiver();
     m_pauseAction->setChecked(false);
+    m_player = qobject_cast<RecordingPlayer *>(connection.get());
     m_session.open(std::move(connection));
+    attachPlayer();
+}
+
+void MainWindow::openRecording(const QString &path, int bytesPerSecond)
+{
+    auto player = std::make_unique<RecordingPlayer>(path, bytesPerSecond > 0 ? bytesPerSecond : 11520);
+    if (bytesPerSecond <= 0)
+        player->setSpeed(0);
+    connectTo(std::move(player));
+}
+
+// Below the pages: it stays out of the docks' way and the user may move it.
+void MainWindow::createPlayerBar()
+{
+    m_playerBar = new PlayerBar;
+    m_playerToolBar = new QToolBar(tr("Player"), this);
+    m_playerToolBar->setObjectName(QStringLiteral("toolbar-player"));
+    m_playerToolBar->addWidget(m_playerBar);
+    addToolBar(Qt::BottomToolBarArea, m_playerToolBar);
+    m_playerToolBar->hide();
+    connect(m_playerBar, &PlayerBar::playingToggled, this, [this](bool playing) {
+        if (m_player)
+            m_player->setPaused(!playing);
+    });
+    connect(m_playerBar, &PlayerBar::stepRequested, this, [this](int epochs) {
+        if (m_player)
+            m_player->step(epochs);
+    });
+    connect(m_playerBar, &PlayerBar::speedChosen, this, [this](double factor) {
+        if (m_player)
+            m_player->setSpeed(factor);
+    });
+    connect(m_playerBar, &PlayerBar::seekRequested, this, [this](int epoch) {
+        if (m_player)
+            m_player->seek(epoch);
+    });
+    connect(m_playerBar, &PlayerBar::jumpRequested, this, &MainWindow::goToTime);
+    connect(m_playerBar, &PlayerBar::cancelIndexingRequested, this, [this] {
+        if (m_player)
+            m_player->cancelIndexing();
+    });
+}
+
+void MainWindow::attachPlayer()
+{
+    m_playerBar->setIndex(nullptr);
+    m_playerToolBar->setVisible(m_player != nullptr);
+    if (!m_player)
+        return;
+    m_playerBar->setPlaying(m_player->isPlaying());
+    m_playerBar->setIndexingProgress(0, 1);
+    connect(m_player, &RecordingPlayer::indexProgress, m_playerBar, &PlayerBar::setIndexingProgress);
+    connect(m_player, &RecordingPlayer::indexFinished, this, [this](bool, const QString &text) {
+        m_playerBar->setIndex(m_player->index());
+        m_playerBar->setIndexingFinished();
+        m_playerBar->setPosition(m_player->position());
+        m_playerBar->showMessage(text);
+    });
+    connect(m_player, &RecordingPlayer::positionChanged, m_playerBar, &PlayerBar::setPosition);
+    connect(m_player, &RecordingPlayer::playingChanged, m_playerBar, &PlayerBar::setPlaying);
+    connect(m_player, &RecordingPlayer::playingChanged, this, [this](bool playing) {
+        const QSignalBlocker quiet(m_pauseAction);
+        m_pauseAction->setChecked(!playing);
+    });
+    connect(m_player, &RecordingPlayer::rebuilt, this, &MainWindow::showRebuilt);
+}
+
+// Fresh pages (the one on screen stays on screen), a fresh receiver state, then what
+// the seek replays. The message counts start again from the seek.
+void MainWindow::showRebuilt(const SeekRebuild &rebuild)
+{
+    QTreeWidget *tree = m_module->getTreeWidget();
+    const QTreeWidgetItem *current = tree->currentItem();
+    const QString label = current && current->parent() ? current->text(0) : QString();
+    const QString category = current && current->parent() ? current->parent()->text(0) : QString();
+    // Mode 3 has no pages: passing through it makes the mode's pages anew.
+    m_module->addItemToTree(3);
+    m_module->addItemToTree(m_mode);
+    for (QTreeWidgetItem *item : tree->findItems(label, Qt::MatchExactly | Qt::MatchRecursive)) {
+        if (!label.isEmpty() && item->parent() && item->parent()->text(0) == category) {
+            tree->setCurrentItem(item);
+            emit tree->itemClicked(item, 0);
+            break;
+        }
+    }
+    replaySeek(*m_module, m_state, rebuild);
+    m_traffic->reset();
+    m_trafficDocks->clear();
+}
+
+void MainWindow::goToTime(const QString &text)
+{
+    if (!m_player)
+        return;
+    QString reason;
+    const int epoch = m_player->findTime(text, &reason);
+    if (epoch < 0 || !m_player->seek(epoch))
+        m_playerBar->showMessage(reason);
+}
+
+void MainWindow::exportRecording()
+{
+    if (!m_player || !m_player->index()) {
+        statusBar()->showMessage(tr("Export needs a recording that has been indexed: replay a file first"), 8000);
+        return;
+    }
+    const SessionIndex &index = *m_player->index();
+    QDialog dialog(this);
+    dialog.setWindowTitle(tr("Export recording"));
+    auto *form = new QFormLayout(&dialog);
+    auto *format = new QComboBox(&dialog);
+    format->addItem(tr("Positions as CSV"), QStringLiteral("csv"));
+    format->addItem(tr("GPX track"), QStringLiteral("gpx"));
+    format->addItem(tr("KML track, coloured by fix quality"), QStringLiteral("kml"));
+    format->addItem(tr("Raw bytes of the span (a recording that replays the same)"), QStringLiteral("raw"));
+    const auto timeText = [&index](int epoch) {
+        return QDateTime::fromMSecsSinceEpoch(index.epochTimeMs(epoch), Qt::UTC)
+            .toString(index.hasDates() ? QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz") : QStringLiteral("HH:mm:ss.zzz"));
+    };
+    auto *from = new QLineEdit(timeText(0), &dialog);
+    auto *to = new QLineEdit(timeText(index.epochCount() - 1), &dialog);
+    from->setPlaceholderText(tr("the start (HH:MM:SS or 2024-05-20T14:32:05)"));
+    to->setPlaceholderText(tr("the end"));
+    form->addRow(tr("Format"), format);
+    form->addRow(tr("From"), from);
+    form->addRow(tr("To"), to);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString kind = format->currentData().toString();
+    const QString suffix = kind == QLatin1String("raw") ? QStringLiteral("log") : kind;
+    const QString path = QFileDialog::getSaveFileName(this, tr("Export to"), QStringLiteral("track.%1").arg(suffix));
+    if (path.isEmpty())
+        return;
+    QFile recording(m_player->path());
+    QFile out(path);
+    QString error;
+    if (!recording.open(QIODevice::ReadOnly))
+        error = recording.errorString();
+    else if (!out.open(QIODevice::WriteOnly))
+        error = out.errorString();
+    else
+        exportSession(recording, index, kind, from->text(), to->text(), QFileInfo(recording.fileName()).completeBaseName(),
+                      out, &error);
+    statusBar()->showMessage(error.isEmpty() ? tr("Exported to %1").arg(path) : tr("Cannot export: %1").arg(error), 8000);
 }
 
 // Another receiver, or the same session again: nothing of the last one carries over.
@@ -479,9 +645,5 @@ void MainWindow::chooseReplayFile()
     const QString path = QFileDialog::getOpenFileName(this, tr("Replay a recorded session"));
     if (path.isEmpty())
         return;
-    bool ok = false;
-    const int rate = QInputDialog::getInt(this, tr("Replay pace"), tr("Bytes per second (0: as fast as possible)"),
-                                          11520, 0, 100000000, 1, &ok);
-    if (ok)
-        connectTo(std::make_unique<FileReplayConnection>(path, rate));
+    openRecording(path);
 }

@@ -11,6 +11,10 @@
 #include <memory>
 
 class MessageViewModules;
+class PlayerBar;
+class QToolBar;
+class RecordingPlayer;
+struct SeekRebuild;
 class LineTraffic;
 class CorrectionsView;
 class QDockWidget;
@@ -44,6 +48,12 @@ public:
 
     // Takes over a connection, opens it and shows its state.
     void connectTo(std::unique_ptr<ReceiverConnection> connection);
+    // Plays a recorded session with the player bar: bytesPerSecond until it is indexed
+    // (0: as fast as possible), then at the receiver's pace.
+    void openRecording(const QString &path, int bytesPerSecond = 11520);
+    // The recording being played, or null.
+    RecordingPlayer *player() const { return m_player; }
+    PlayerBar *playerBar() const { return m_playerBar; }
     void disconnectReceiver();
     void setMode(int mode);
     void setLanguage(const QString &language);
@@ -71,6 +81,11 @@ private:
     void createCorrectionsDock();
     void chooseCorrections();
     void chooseReplayFile();
+    void createPlayerBar();
+    void attachPlayer();
+    void showRebuilt(const SeekRebuild &rebuild);
+    void goToTime(const QString &text);
+    void exportRecording();
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
@@ -97,6 +112,9 @@ private:
     QLabel *m_correctionsLabel = nullptr;
     CorrectionsView *m_correctionsView = nullptr;
     QDockWidget *m_correctionsDock = nullptr;
+    RecordingPlayer *m_player = nullptr;
+    PlayerBar *m_playerBar = nullptr;
+    QToolBar *m_playerToolBar = nullptr;
     QLabel *m_rateLabel = nullptr;
     QLabel *m_totalLabel = nullptr;
     QLabel *m_silenceLabel = nullptr;

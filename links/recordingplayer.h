@@ -34,6 +34,7 @@ public:
     // From the start again.
     void restart() override;
 
+    QString path() const { return m_path; }
     bool isPlaying() const { return m_timer.isActive(); }
     // Null until the scan has finished.
     const SessionIndex *index() const { return m_index.get(); }

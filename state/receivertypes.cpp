@@ -24,25 +24,36 @@ const SystemNames *namesOf(GnssSystem system)
     return nullptr;
 }
 
-struct QualityName
+struct QualityInfo
 {
     FixQuality quality;
     const char *name;
+    quint32 rgb;
 };
 
-constexpr QualityName kQualities[] = {
-    {FixQuality::NoFix, "no fix"},
-    {FixQuality::Single, "single"},
-    {FixQuality::Dgnss, "DGNSS"},
-    {FixQuality::Pps, "PPS"},
-    {FixQuality::RtkFixed, "RTK fixed"},
-    {FixQuality::RtkFloat, "RTK float"},
-    {FixQuality::DeadReckoning, "dead reckoning"},
-    {FixQuality::Manual, "manual"},
-    {FixQuality::Simulation, "simulation"},
-    {FixQuality::Sbas, "SBAS"},
-    {FixQuality::Ppp, "PPP"},
+constexpr QualityInfo kQualities[] = {
+    {FixQuality::NoFix, "no fix", 0xe53935},
+    {FixQuality::Single, "single", 0x1e88e5},
+    {FixQuality::Dgnss, "DGNSS", 0x00897b},
+    {FixQuality::Pps, "PPS", 0x3949ab},
+    {FixQuality::RtkFixed, "RTK fixed", 0x2e7d32},
+    {FixQuality::RtkFloat, "RTK float", 0xfb8c00},
+    {FixQuality::DeadReckoning, "dead reckoning", 0x6d4c41},
+    {FixQuality::Manual, "manual", 0x757575},
+    {FixQuality::Simulation, "simulation", 0xad1457},
+    {FixQuality::Sbas, "SBAS", 0x5e35b1},
+    {FixQuality::Ppp, "PPP", 0x00acc1},
 };
+
+// A value outside the list reads as no fix, as the receiver state reads it.
+const QualityInfo &infoOf(FixQuality quality)
+{
+    for (const QualityInfo &entry : kQualities) {
+        if (entry.quality == quality)
+            return entry;
+    }
+    return kQualities[0];
+}
 
 } // namespace
 
@@ -69,20 +80,15 @@ const QVector<GnssSystem> &knownSystems()
     return systems;
 }
 
-QString fixQualityName(FixQuality quality)
-{
-    for (const QualityName &entry : kQualities) {
-        if (entry.quality == quality)
-            return QString::fromLatin1(entry.name);
-    }
-    return QStringLiteral("no fix");
-}
+QString fixQualityName(FixQuality quality) { return QString::fromLatin1(infoOf(quality).name); }
+
+quint32 fixQualityRgb(FixQuality quality) { return infoOf(quality).rgb; }
 
 const QVector<FixQuality> &allFixQualities()
 {
     static const QVector<FixQuality> qualities = [] {
         QVector<FixQuality> list;
-        for (const QualityName &entry : kQualities)
+        for (const QualityInfo &entry : kQualities)
             list << entry.quality;
         return list;
     }();

@@ -29,6 +29,9 @@ enum class FixQuality { NoFix, Single, Dgnss, Pps, RtkFixed, RtkFloat, DeadRecko
 // "no fix", "single", "DGNSS", "PPS", "RTK fixed", "RTK float", "dead reckoning",
 // "manual", "simulation", "SBAS", "PPP".
 QString fixQualityName(FixQuality quality);
+// 0xRRGGBB: the one colour of a fix quality wherever a track or a legend shows it (the
+// views, the map, an exported KML file).
+quint32 fixQualityRgb(FixQuality quality);
 const QVector<FixQuality> &allFixQualities();
 
 struct SignalInfo

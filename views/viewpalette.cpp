@@ -27,23 +27,7 @@ QColor cn0Colour(double cn0)
 
 QColor unknownColour() { return QColor(0x9e, 0x9e, 0x9e); }
 
-QColor fixQualityColour(FixQuality quality)
-{
-    switch (quality) {
-    case FixQuality::NoFix: return QColor(0xe5, 0x39, 0x35);
-    case FixQuality::Single: return QColor(0x1e, 0x88, 0xe5);
-    case FixQuality::Dgnss: return QColor(0x00, 0x89, 0x7b);
-    case FixQuality::Sbas: return QColor(0x5e, 0x35, 0xb1);
-    case FixQuality::Pps: return QColor(0x39, 0x49, 0xab);
-    case FixQuality::RtkFixed: return QColor(0x2e, 0x7d, 0x32);
-    case FixQuality::RtkFloat: return QColor(0xfb, 0x8c, 0x00);
-    case FixQuality::Ppp: return QColor(0x00, 0xac, 0xc1);
-    case FixQuality::DeadReckoning: return QColor(0x6d, 0x4c, 0x41);
-    case FixQuality::Manual: return QColor(0x75, 0x75, 0x75);
-    case FixQuality::Simulation: return QColor(0xad, 0x14, 0x57);
-    }
-    return unknownColour();
-}
+QColor fixQualityColour(FixQuality quality) { return QColor(QRgb(fixQualityRgb(quality))); }
 
 QColor warningColour() { return QColor(0xe5, 0x39, 0x35); }
 

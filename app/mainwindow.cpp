@@ -138,7 +138,10 @@ void MainWindow::createModule()
     m_splitter->setStretchFactor(1, 1);
     setWindowTitle(tr("Receiver messages"));
     connect(m_module, &MessageViewModules::messageViewTitleShow, this,
-            [this](const QString &title) { setWindowTitle(tr("Receiver messages - %1").arg(title)); });
+            [this](const QString &title) {
+                m_pageOnScreen = title;
+                setWindowTitle(tr("Receiver messages - %1").arg(title));
+            });
     m_module->addItemToTree(m_mode);
 }
 
@@ -374,15 +377,13 @@ void MainWindow::attachPlayer()
 // the seek replays. The message counts start again from the seek.
 void MainWindow::showRebuilt(const SeekRebuild &rebuild)
 {
-    QTreeWidget *tree = m_module->getTreeWidget();
-    const QTreeWidgetItem *current = tree->currentItem();
-    const QString label = current && current->parent() ? current->text(0) : QString();
-    const QString category = current && current->parent() ? current->parent()->text(0) : QString();
     // Mode 3 has no pages: passing through it makes the mode's pages anew.
+    const QString pageOnScreen = m_pageOnScreen;
     m_module->addItemToTree(3);
     m_module->addItemToTree(m_mode);
-    for (QTreeWidgetItem *item : tree->findItems(label, Qt::MatchExactly | Qt::MatchRecursive)) {
-        if (!label.isEmpty() && item->parent() && item->parent()->text(0) == category) {
+    QTreeWidget *tree = m_module->getTreeWidget();
+    for (QTreeWidgetItem *item : tree->findItems(pageOnScreen, Qt::MatchExactly | Qt::MatchRecursive)) {
+        if (item->parent()) {
             tree->setCurrentItem(item);
             emit tree->itemClicked(item, 0);
             break;

@@ -112,6 +112,7 @@ private:
     QLabel *m_correctionsLabel = nullptr;
     CorrectionsView *m_correctionsView = nullptr;
     QDockWidget *m_correctionsDock = nullptr;
+    QString m_pageOnScreen; // the tree label of the page last brought forward
     RecordingPlayer *m_player = nullptr;
     PlayerBar *m_playerBar = nullptr;
     QToolBar *m_playerToolBar = nullptr;

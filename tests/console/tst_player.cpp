@@ -1,6 +1,9 @@
 #include "headlessreplay.h"
+#include "mainwindow.h"
 #include "messageviewmodules.h"
+#include "playerbar.h"
 #include "receiverstate.h"
+#include "recordingplayer.h"
 #include "sessionindex.h"
 
 #include <QFile>
@@ -20,16 +23,60 @@ namespace {
 // Every fault the simulator knows, often enough that seeks land near damaged lines.
 const QStringList kFaults = {"--corrupt", "0.02", "--truncate", "0.02", "--drop-crlf", "0.02", "--garbage", "0.02"};
 
-QString record(const QString &path, int mode, int seconds, const QStringList &extra = {})
+QString record(const QString &path, int mode, int seconds, const QStringList &faults = kFaults)
 {
     QProcess rxsim;
     rxsim.setStandardOutputFile(path);
     rxsim.start(RXSIM_BINARY, QStringList{"--mode", QString::number(mode), "--duration", QString::number(seconds),
                                           "--seed", "7", "--as-fast-as-possible", "--start", "2024-05-20T23:58:00Z"}
-                                  + kFaults + extra);
+                                  + faults);
     if (!rxsim.waitForFinished(60000) || rxsim.exitCode() != 0)
         return QStringLiteral("rxsim failed: ") + rxsim.readAllStandardError();
     return QString();
+}
+
+// Every text a page shows: its tables, count boxes and labels.
+QStringList pageTexts(const QWidget *page)
+{
+    QStringList texts;
+    for (const QTableWidget *table : page->findChildren<QTableWidget *>()) {
+        texts << QStringLiteral("rows %1").arg(table->rowCount());
+        for (int row = 0; row < table->rowCount(); ++row) {
+            for (int column = 0; column < table->columnCount(); ++column) {
+                if (const QTableWidgetItem *item = table->item(row, column))
+                    texts << QStringLiteral("%1,%2 %3").arg(row).arg(column).arg(item->text());
+            }
+        }
+    }
+    for (const QLineEdit *edit : page->findChildren<QLineEdit *>())
+        texts << edit->text();
+    for (const QLabel *label : page->findChildren<QLabel *>())
+        texts << label->text();
+    return texts;
+}
+
+QTreeWidgetItem *treeItem(MessageViewModules &module, const QString &label)
+{
+    for (QTreeWidgetItem *item : module.getTreeWidget()->findItems(label, Qt::MatchExactly | Qt::MatchRecursive)) {
+        if (item->parent())
+            return item;
+    }
+    return nullptr;
+}
+
+// The page with this label on screen, the recording played to `end` from its start.
+QStringList shownAfterPlaying(const QString &path, int mode, const QString &label, qint64 end)
+{
+    QStackedWidget stack;
+    MessageViewModules module(&stack, QStringLiteral("EN"));
+    module.addItemToTree(mode);
+    stack.show();
+    emit module.getTreeWidget()->itemClicked(treeItem(module, label), 0);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    module.onUpdateBuffer(file.read(end));
+    return pageTexts(stack.currentWidget());
 }
 
 // A module whose every page is on screen (each its own offscreen window), so that each
@@ -59,20 +106,8 @@ struct ShownModule
     {
         QStringList texts;
         for (const auto &page : pages) {
-            texts << QStringLiteral("page %1").arg(page->objectName());
-            for (const QTableWidget *table : page->findChildren<QTableWidget *>()) {
-                texts << QStringLiteral("rows %1").arg(table->rowCount());
-                for (int row = 0; row < table->rowCount(); ++row) {
-                    for (int column = 0; column < table->columnCount(); ++column) {
-                        if (const QTableWidgetItem *item = table->item(row, column))
-                            texts << QStringLiteral("%1,%2 %3").arg(row).arg(column).arg(item->text());
-                    }
-                }
-            }
-            for (const QLineEdit *edit : page->findChildren<QLineEdit *>())
-                texts << edit->text();
-            for (const QLabel *label : page->findChildren<QLabel *>())
-                texts << label->text();
+            texts << QStringLiteral("page %1").arg(page->metaObject()->className());
+            texts << pageTexts(page.get());
         }
         QTreeWidget *tree = module.getTreeWidget();
         for (int top = 0; top < tree->topLevelItemCount(); ++top) {
@@ -137,6 +172,9 @@ class PlayerTest : public QObject
 private slots:
     void seekShowsWhatPlayingShows_data();
     void seekShowsWhatPlayingShows();
+    void windowPlaysSeeksAndSteps();
+    void exportFromTheCommandLine_data();
+    void exportFromTheCommandLine();
 
 private:
     QTemporaryDir m_dir;
@@ -204,6 +242,115 @@ void PlayerTest::seekShowsWhatPlayingShows()
         QCOMPARE(fixText(soughtState.fix()), fixText(playedState.fix()));
         QCOMPARE(satelliteTexts(soughtState), satelliteTexts(playedState));
     }
+}
+
+// The window with a recording: the bar's requests reach the player, and the page on
+// screen stays on screen through seeks and steps, showing what playing to there shows.
+void PlayerTest::windowPlaysSeeksAndSteps()
+{
+    const QString path = m_dir.filePath(QStringLiteral("window.log"));
+    const QString failure = record(path, 2, 60);
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
+    MainWindow window(QStringLiteral("EN"), 2);
+    window.show();
+    window.openRecording(path);
+    RecordingPlayer *player = window.player();
+    QVERIFY(player);
+    QVERIFY(QTest::qWaitFor([&] { return player->index() != nullptr; }, 20000));
+    const SessionIndex &index = *player->index();
+    PlayerBar *bar = window.playerBar();
+    QVERIFY(bar->isVisible());
+    emit bar->playingToggled(false);
+    QVERIFY(!player->isPlaying());
+
+    const QString label = QStringLiteral("Bestpos");
+    emit window.module()->getTreeWidget()->itemClicked(treeItem(*window.module(), label), 0);
+    const auto expectShown = [&](int epoch) {
+        QCOMPARE(player->position(), epoch);
+        QCOMPARE(pageTexts(window.stack()->currentWidget()), shownAfterPlaying(path, 2, label, index.epochEnd(epoch)));
+    };
+    const QVector<std::pair<std::function<void()>, int>> requests = {
+        {[&] { emit bar->seekRequested(40); }, 40},
+        {[&] { emit bar->stepRequested(1); }, 41},
+        {[&] { emit bar->stepRequested(-2); }, 39},
+        {[&] { emit bar->jumpRequested(QStringLiteral("23:58:30")); }, 30},
+    };
+    for (const auto &[request, epoch] : requests) {
+        request();
+        expectShown(epoch);
+        if (QTest::currentTestFailed())
+            return;
+    }
+    QCOMPARE(window.receiverState()->fix().utc, QDateTime(QDate(2024, 5, 20), QTime(23, 58, 30), Qt::UTC));
+
+    // A time the recording never reaches: said in the bar, nothing moves.
+    emit bar->jumpRequested(QStringLiteral("12:00:00"));
+    QCOMPARE(player->position(), 30);
+    QVERIFY(bar->findChild<QLabel *>(QStringLiteral("messageLabel"))->text().contains(QLatin1String("not in the recording")));
+
+    // As fast as possible to the end.
+    emit bar->speedChosen(0);
+    emit bar->playingToggled(true);
+    QVERIFY(QTest::qWaitFor([&] { return player->state() == ReceiverConnection::State::Finished; }, 20000));
+    expectShown(index.epochCount() - 1);
+}
+
+void PlayerTest::exportFromTheCommandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("rows");    // CSV rows expected; -1: refused
+    QTest::addColumn<QString>("said"); // on standard error when refused
+    // 150 s from 23:58:00, one position a second.
+    QTest::newRow("whole recording") << QStringList{"--export", "csv"} << 150 << "";
+    QTest::newRow("across midnight") << QStringList{"--export", "CSV", "--from", "23:58:50", "--to", "00:00:05"} << 76 << "";
+    QTest::newRow("dated span") << QStringList{"--export", "csv", "--from", "2024-05-20T23:58:10Z", "--to", "2024-05-20T23:58:19Z"} << 10 << "";
+    QTest::newRow("unknown format") << QStringList{"--export", "shp"} << -1 << "unknown export format";
+    QTest::newRow("time not recorded") << QStringList{"--export", "gpx", "--from", "05:00:00"} << -1 << "not in the recording";
+    QTest::newRow("end before start") << QStringList{"--export", "kml", "--from", "23:59:00", "--to", "23:58:30"} << -1 << "comes before";
+}
+
+// Every export is a CSV of the span's epochs, or a clear refusal that leaves no file;
+// the raw cut of the span exports the same positions as the span itself.
+void PlayerTest::exportFromTheCommandLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, rows);
+    QFETCH(QString, said);
+    const QString path = m_dir.filePath(QStringLiteral("export.log"));
+    if (!QFile::exists(path))
+        QVERIFY(record(path, 0, 150, {}).isEmpty());
+    const auto run = [](const QStringList &arguments, QByteArray *errors) {
+        QProcess msgview;
+        msgview.start(MSGVIEW_BINARY, arguments);
+        msgview.waitForFinished(60000);
+        *errors = msgview.readAllStandardError();
+        return msgview.exitCode();
+    };
+    const QString out = m_dir.filePath(QStringLiteral("export.out"));
+    QFile::remove(out);
+    QByteArray errors;
+    const int status = run(arguments + QStringList{"--replay", path, "-o", out}, &errors);
+    if (rows < 0) {
+        QCOMPARE(status, 1);
+        QVERIFY2(errors.contains(said.toUtf8()), errors.constData());
+        QVERIFY(!QFile::exists(out));
+        return;
+    }
+    QCOMPARE(status, 0);
+    QFile csv(out);
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    const QByteArray table = csv.readAll();
+    QCOMPARE(table.count("\r\n"), rows + 1);
+
+    const QString cut = m_dir.filePath(QStringLiteral("export-cut.log"));
+    QStringList rawArguments = arguments;
+    rawArguments[1] = QStringLiteral("raw");
+    QCOMPARE(run(rawArguments + QStringList{"--replay", path, "-o", cut}, &errors), 0);
+    const QString again = m_dir.filePath(QStringLiteral("export-again.csv"));
+    QCOMPARE(run({"--export", "csv", "--replay", cut, "-o", again}, &errors), 0);
+    QFile cutCsv(again);
+    QVERIFY(cutCsv.open(QIODevice::ReadOnly));
+    QCOMPARE(cutCsv.readAll(), table);
 }
 
 QTEST_MAIN(PlayerTest)

@@ -127,6 +127,7 @@ private:
         int memoryCount = 0;
     };
     int checkpointBefore(int epoch, qint64 reachMs) const;
+    void reserveFor(const QIODevice &device, qint64 bytesRead);
 
     // Struct of arrays: a day at 20 Hz is 1.7 million epochs.
     QVector<qint64> m_offsets;

@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace {
 
@@ -230,6 +231,20 @@ void SessionScanner::finish()
         closeEpoch();
 }
 
+// Room for the epochs the whole file will hold at the rate of its first bytes, and a
+// tenth more: a day at 20 Hz then grows without the copies of a doubling vector.
+void SessionIndex::reserveFor(const QIODevice &device, qint64 bytesRead)
+{
+    if (device.isSequential() || device.size() <= bytesRead)
+        return;
+    const double expected = double(m_offsets.size()) * double(device.size()) / double(bytesRead) * 1.1 + 64;
+    const int epochs = int(std::min(expected, double(std::numeric_limits<int>::max() / 8)));
+    m_offsets.reserve(epochs);
+    m_times.reserve(epochs);
+    m_qualities.reserve(epochs);
+    m_satellites.reserve(epochs);
+}
+
 bool SessionIndex::build(QIODevice &device, const std::atomic_bool *cancel,
                          const std::function<void(qint64)> &progress, QString *error)
 {
@@ -264,9 +279,12 @@ bool SessionIndex::build(QIODevice &device, const std::atomic_bool *cancel,
         }
         if (read == 0)
             break;
+        const bool first = total == 0;
         total += read;
         takeLines(buffer, scanFrom, droppingLongLine, kMaxLineBytes, QByteArray::fromRawData(chunk.constData(), int(read)),
                   onLine, onDropped);
+        if (first)
+            reserveFor(device, total);
         if (progress)
             progress(total);
     }
@@ -277,10 +295,6 @@ bool SessionIndex::build(QIODevice &device, const std::atomic_bool *cancel,
     m_fileSize = total;
     if (!m_hasReceiverTime)
         m_times[0] = 0;
-    m_offsets.squeeze();
-    m_times.squeeze();
-    m_qualities.squeeze();
-    m_satellites.squeeze();
     m_markers.squeeze();
     m_memory.squeeze();
     return true;

@@ -2,6 +2,9 @@
 
 #include "correctionsview.h"
 #include "linetraffic.h"
+#include "mainwindow.h"
+#include "playerbar.h"
+#include "recordingplayer.h"
 
 #include "messageviewmodules.h"
 #include "receiverdocks.h"
@@ -22,6 +25,7 @@
 #include <QRegularExpression>
 #include <QSocketNotifier>
 #include <QStackedWidget>
+#include <QTreeWidget>
 #include <QTimer>
 #include <QWidget>
 
@@ -287,4 +291,39 @@ void replaySeek(MessageViewModules &module, ReceiverState &state, const SeekRebu
     state.feed(rebuild.viewsOnly);
     module.onUpdateBuffer(rebuild.both);
     state.feed(rebuild.both);
+}
+
+int writePlayerPictures(const QString &recording, const QString &language, int mode, double share,
+                        const QString &label, const QString &directory, QTextStream &out)
+{
+    MainWindow window(language, mode);
+    window.resize(1600, 1000);
+    window.show();
+    window.openRecording(recording);
+    RecordingPlayer *player = window.player();
+    QEventLoop loop;
+    QObject::connect(player, &RecordingPlayer::indexFinished, &loop, &QEventLoop::quit);
+    if (!player->index() && !player->isIndexing())
+        return 0;
+    if (!player->index())
+        loop.exec();
+    if (!player->index() || player->index()->epochCount() == 0)
+        return 0;
+    player->setPaused(true);
+    for (QTreeWidgetItem *item :
+         window.module()->getTreeWidget()->findItems(label, Qt::MatchExactly | Qt::MatchRecursive)) {
+        if (item->parent()) {
+            window.module()->getTreeWidget()->setCurrentItem(item);
+            emit window.module()->getTreeWidget()->itemClicked(item, 0);
+            break;
+        }
+    }
+    player->seek(int(share * (player->index()->epochCount() - 1)));
+    // The views draw on their refresh timers.
+    QElapsedTimer settle;
+    settle.start();
+    while (settle.elapsed() < 2 * ReceiverState::notifyIntervalMs + 200)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    return writePicture(window, directory, QStringLiteral("window-player"), out)
+        + writePicture(*window.playerBar(), directory, QStringLiteral("player"), out);
 }

@@ -50,3 +50,9 @@ bool writePicture(QWidget &widget, const QString &directory, const QString &name
 // remembered lines, the state first its longer stretch), so that both show what a play
 // from the start to rebuild.endOffset shows.
 void replaySeek(MessageViewModules &module, ReceiverState &state, const SeekRebuild &rebuild);
+
+// The console's window playing a recording, paused at the epoch `share` of the way
+// through with the page `label` on screen: window-player.png of the window and
+// player.png of its player bar, into directory. The number of pictures written.
+int writePlayerPictures(const QString &recording, const QString &language, int mode, double share,
+                        const QString &label, const QString &directory, QTextStream &out);

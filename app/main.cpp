@@ -299,6 +299,13 @@ int main(int argc, char **argv)
             ? runSnapshot(module, state, traffic, stack, feed, QFileInfo(parser.value(snapshotOption)).absoluteFilePath(),
                           out, &session)
             : runHeadless(module, state, traffic, feed, out);
+        // A recorded file also shows the player, paused at 60 % of it on the satellites.
+        const QString replayPath = parser.value(replayOption);
+        if (parser.isSet(snapshotOption) && !connection && parser.isSet(replayOption) && replayPath != QLatin1String("-")
+            && writePlayerPictures(replayPath, language, mode, 0.6, QStringLiteral("GSV"),
+                                   QFileInfo(parser.value(snapshotOption)).absoluteFilePath(), out)
+                != 2)
+            status = 1;
         status = qMax(status, outcome);
         const CorrectionSnapshot corrections = session.corrections();
         QString error;

@@ -275,9 +275,11 @@ void ConsoleTest::snapshotWritesOnePngPerPage()
     QVERIFY2(summary.contains("total lines: 600 (taken 600, refused 0)"), qPrintable(summary));
     // The page table: the lines between its heading and the totals.
     const int pages = summary.left(summary.indexOf("total lines:")).count('\n') - 1;
-    // A picture of every page, of the four receiver views and of two docks of the stream.
+    // A picture of every page, of the four receiver views, of two docks of the stream,
+    // and of the window playing the recording with its player bar.
     const QFileInfoList pngs = QDir(dir.path()).entryInfoList({"*.png"});
-    QCOMPARE(pngs.size(), pages + 6);
+    QCOMPARE(pngs.size(), pages + 8);
+    QVERIFY(QFile::exists(dir.filePath("window-player.png")));
     for (const QFileInfo &png : pngs) {
         QImage image(png.filePath());
         QVERIFY2(!image.isNull() && image.width() > 100, qPrintable(png.fileName()));

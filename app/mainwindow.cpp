@@ -464,6 +464,9 @@ void MainWindow::forgetReceiver()
 
 void MainWindow::disconnectReceiver()
 {
+    // The bar lets go of the player's index before the session deletes the player.
+    m_player = nullptr;
+    attachPlayer();
     m_session.close();
 }
 

@@ -2,10 +2,12 @@
 
 #include "receiversession.h"
 #include "receiverstate.h"
+#include "recordingplayer.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMainWindow>
+#include <QPointer>
 #include <QStringList>
 #include <QTimer>
 #include <memory>
@@ -13,7 +15,6 @@
 class MessageViewModules;
 class PlayerBar;
 class QToolBar;
-class RecordingPlayer;
 struct SeekRebuild;
 class LineTraffic;
 class CorrectionsView;
@@ -113,7 +114,7 @@ private:
     CorrectionsView *m_correctionsView = nullptr;
     QDockWidget *m_correctionsDock = nullptr;
     QString m_pageOnScreen; // the tree label of the page last brought forward
-    RecordingPlayer *m_player = nullptr;
+    QPointer<RecordingPlayer> m_player; // the session owns it
     PlayerBar *m_playerBar = nullptr;
     QToolBar *m_playerToolBar = nullptr;
     QLabel *m_rateLabel = nullptr;

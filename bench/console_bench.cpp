@@ -4,8 +4,13 @@
 // thread (how late a 5 ms timer fired at worst).
 //
 //   console_bench --replay FILE [--rate BYTES_PER_SECOND] [--seconds N] [--hidden-views]
+//
+// With --seeks N it opens the recording in the window's player instead, waits for the
+// index and times N seeks spread over the recording, the busiest page on screen.
 #include "mainwindow.h"
+#include "messageviewmodules.h"
 #include "receiverdocks.h"
+#include "recordingplayer.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -13,6 +18,7 @@
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include <sys/resource.h>
 
@@ -25,6 +31,46 @@ double cpuSeconds()
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec + (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+}
+
+// From opening the file to its index in the window, then each seek from the request
+// to the pages, views and tree showing the new moment.
+int timeSeeks(MainWindow &window, const QString &path, int seeks)
+{
+    QElapsedTimer timer;
+    timer.start();
+    window.openRecording(path);
+    RecordingPlayer *player = window.player();
+    player->setPaused(true);
+    QEventLoop loop;
+    QObject::connect(player, &RecordingPlayer::indexFinished, &loop, &QEventLoop::quit);
+    if (!player->index())
+        loop.exec();
+    const double indexSeconds = timer.nsecsElapsed() / 1e9;
+    if (!player->index()) {
+        std::fprintf(stderr, "console_bench: no index of %s\n", qPrintable(path));
+        return 1;
+    }
+    QTreeWidget *tree = window.module()->getTreeWidget();
+    const QList<QTreeWidgetItem *> gsv = tree->findItems(QStringLiteral("GSV"), Qt::MatchExactly | Qt::MatchRecursive);
+    if (!gsv.isEmpty())
+        emit tree->itemClicked(gsv.constFirst(), 0);
+    const int epochs = player->index()->epochCount();
+    double slowest = 0, total = 0;
+    for (int i = 0; i < seeks; ++i) {
+        // Back and forth over the recording, not in order: no seek profits from the last.
+        const int epoch = int(qint64(epochs - 1) * ((i * 7) % seeks + 1) / seeks);
+        timer.restart();
+        player->seek(epoch);
+        QCoreApplication::processEvents();
+        const double ms = timer.nsecsElapsed() / 1e6;
+        slowest = std::max(slowest, ms);
+        total += ms;
+    }
+    std::printf("console, player on %s: indexed in %.1f s in the window (%d epochs); %d seeks with the GSV page "
+                "on screen: %.0f ms on average, %.0f ms at most (target: under 500 ms)\n",
+                qPrintable(path), indexSeconds, epochs, seeks, total / seeks, slowest);
+    return 0;
 }
 
 } // namespace
@@ -46,7 +92,9 @@ int main(int argc, char **argv)
                                            QStringLiteral("N"), QStringLiteral("20"));
     const QCommandLineOption hiddenViewsOption(QStringLiteral("hidden-views"),
                                                QStringLiteral("Hide the receiver views (what they cost, by difference)."));
-    parser.addOptions({replayOption, rateOption, secondsOption, hiddenViewsOption});
+    const QCommandLineOption seeksOption(QStringLiteral("seeks"), QStringLiteral("Time N seeks in the player."),
+                                         QStringLiteral("N"));
+    parser.addOptions({replayOption, rateOption, secondsOption, hiddenViewsOption, seeksOption});
     parser.process(app);
     if (!parser.isSet(replayOption))
         parser.showHelp(2);
@@ -59,6 +107,8 @@ int main(int argc, char **argv)
     for (QDockWidget *dock : window.receiverDocks()->docks())
         dock->setVisible(viewsShown);
     QCoreApplication::processEvents();
+    if (parser.isSet(seeksOption))
+        return timeSeeks(window, parser.value(replayOption), qMax(1, parser.value(seeksOption).toInt()));
 
     qint64 worstLateNs = 0, worstStartLateNs = 0;
     QElapsedTimer wall;

@@ -42,6 +42,7 @@ index_recordings() {
         --corrupt 0.01 --truncate 0.01 --drop-crlf 0.01 --garbage 0.01 > "$corpus/session.log"
     echo "recording index, damaged mode 2 ($(stat -c %s "$corpus/session.log") bytes):"
     "$index_bench" "$corpus/session.log" 40
+    "$console_bench" --replay "$corpus/session.log" --seeks 20 2>/dev/null
     rm -f "$corpus/session.log"
     local day=$((index_seconds * 86400 / 82000)) gga_only=()
     for name in $("$rxsim" --mode 0 --list-messages | awk 'NR > 1 { print $1 }'); do

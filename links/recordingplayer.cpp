@@ -69,7 +69,11 @@ void RecordingPlayer::open()
         if (job->ok)
             job->index = std::move(index);
     });
-    connect(m_scan, &QThread::finished, this, &RecordingPlayer::scanFinished);
+    // A scan stopped for a newer one may still report: only the current one counts.
+    connect(m_scan, &QThread::finished, this, [this, job] {
+        if (job == m_scanJob)
+            scanFinished();
+    });
     m_scan->start(QThread::LowPriority);
     m_progressTimer.start();
     emit indexProgress(0, m_fileSize);

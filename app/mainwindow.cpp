@@ -40,6 +40,20 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+namespace {
+
+// Ok and Cancel under the form; true when the user chose Ok.
+bool acceptedWithButtons(QDialog &dialog, QFormLayout *form)
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    form->addRow(buttons);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+} // namespace
+
 QList<QPair<int, QString>> MainWindow::productModes()
 {
     return {{0, tr("NMEA")},
@@ -430,11 +444,7 @@ void MainWindow::exportRecording()
     form->addRow(tr("Format"), format);
     form->addRow(tr("From"), from);
     form->addRow(tr("To"), to);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    form->addRow(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    if (dialog.exec() != QDialog::Accepted)
+    if (!acceptedWithButtons(dialog, form))
         return;
     const QString kind = format->currentData().toString();
     const QString suffix = kind == QLatin1String("raw") ? QStringLiteral("log") : kind;
@@ -584,11 +594,7 @@ void MainWindow::chooseSerialPort()
     baud->setCurrentText(settings.value(QStringLiteral("serialBaud"), 115200).toString());
     form->addRow(tr("Device"), ports);
     form->addRow(tr("Baud (8N1)"), baud);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    form->addRow(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    if (dialog.exec() != QDialog::Accepted)
+    if (!acceptedWithButtons(dialog, form))
         return;
     const QString device = ports->currentData().isValid() && ports->currentText().startsWith(ports->currentData().toString())
         ? ports->currentData().toString()

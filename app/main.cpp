@@ -113,7 +113,8 @@ int main(int argc, char **argv)
     const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language: EN or CH (default: the last one, else EN)."),
                                         QStringLiteral("EN|CH"));
     const QCommandLineOption rateOption(QStringLiteral("rate"),
-                                        QStringLiteral("Replay pace in bytes per second in the window (0: as fast as possible)."),
+                                        QStringLiteral("In the window, the pace of a replay in bytes per second until the recording is indexed; "
+                                                       "then it plays at the receiver's own pace (0: as fast as possible throughout)."),
                                         QStringLiteral("BYTES"), QStringLiteral("11520"));
     const QCommandLineOption recordOption(QStringLiteral("record"), QStringLiteral("Record the raw received bytes to FILE."),
                                           QStringLiteral("FILE"));

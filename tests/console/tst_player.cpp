@@ -79,6 +79,14 @@ QStringList shownAfterPlaying(const QString &path, int mode, const QString &labe
     return pageTexts(stack.currentWidget());
 }
 
+QByteArray sentence(const QByteArray &body, bool intact = true)
+{
+    char sum = 0;
+    for (const char c : body)
+        sum ^= c;
+    return "$" + body + "*" + QByteArray::number(uchar(intact ? sum : sum ^ 1), 16).rightJustified(2, '0') + "\r\n";
+}
+
 // A module whose every page is on screen (each its own offscreen window), so that each
 // page shows what it takes, as the page the user looks at does.
 struct ShownModule
@@ -192,6 +200,17 @@ void PlayerTest::seekShowsWhatPlayingShows_data()
         QVERIFY2(failure.isEmpty(), qPrintable(failure));
         QTest::addRow("rxsim mode %d", mode) << path << mode;
     }
+    // Heading sent three times long before the seeks: a whole sentence, one a field short
+    // (its page keeps the last row of the whole one), then a damaged one.
+    const QString heading = m_dir.filePath(QStringLiteral("heading.log"));
+    QVERIFY(record(heading, 0, 100, {"--rate", "HDT=0"}).isEmpty());
+    QFile file(heading);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArray bytes = file.readAll();
+    const int at = bytes.indexOf("\r\n", bytes.indexOf("$GNGGA,235810.00")) + 2;
+    bytes.insert(at, sentence("GNHDT,123.4,T") + sentence("GNHDT,200.0") + sentence("GNHDT,300.0", false));
+    QVERIFY(file.resize(0) && file.write(bytes) == bytes.size());
+    QTest::newRow("heading once, whole, short and damaged") << heading << 0;
     // A real receiver's NMEA 4.11 stream (several signals per satellite) and an old one.
     QTest::newRow("NMEA 4.11 receiver") << QStringLiteral(TEST_DATA_DIR "/ch-4711.log") << 0;
     QTest::newRow("NMEA 2 receiver") << QStringLiteral(TEST_DATA_DIR "/GPSmap-76S.log") << 0;

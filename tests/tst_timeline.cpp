@@ -216,6 +216,8 @@ void TimelineTest::barControlsSignal()
         auto *edit = bar.findChild<QLineEdit *>(control);
         QTest::keyClicks(edit, typed);
         QTest::keyClick(edit, Qt::Key_Return);
+        // The clear button fades in: its animation must end (and go) before the edit does.
+        QTest::qWait(300);
     }
     QVariantList emitted;
     for (const QList<QVariant> &call : spy)

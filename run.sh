@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # Sets up, builds and opens the receiver console on the demo session (60 s of a
 # simulated mode-2 receiver built into it). Without a display it replays the same
 # session headless, prints what each page took and writes a picture of every page

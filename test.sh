@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # Sets up, builds and runs the whole test suite (offscreen, no display needed).
 set -euo pipefail
 cd "$(dirname "$0")"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "headlessreplay.h"
 #include "linetraffic.h"
 #include "mainwindow.h"

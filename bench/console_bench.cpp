@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Measures the console as a user runs it: the main window with every receiver view
 // visible, fed a recording at a fixed pace as a live receiver would send it. Prints
 // the process's CPU time as a share of one core and the longest stall of the GUI

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The recording index benchmark: indexes a recorded session, prints what it found and
 // its cost, then plans and reads seeks spread over the recording and prints their cost.
 //

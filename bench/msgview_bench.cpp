@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Measures the library's real byte-stream path: a MessageViewModules on an offscreen
 // platform fed with corpora, printing one table of throughput and peak memory.
 //

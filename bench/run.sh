@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # The byte-stream benchmark. Generates deterministic corpora with rxsim, drives a real
 # module with them (msgview_bench), times gpsd's gpsdecode on the NMEA part of the same
 # corpus, and prints one table. Results are also written to bench/results-latest.txt.

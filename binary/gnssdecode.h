@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 /*
  * The C interface of the receiver maker's decode library GNSSDecode, as the binary
  * decode page uses it. The library is loaded at run time (see gnssdecoder.h); a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "nmeadecoder.h"
 
 #include "gnssmessagekinds.h"

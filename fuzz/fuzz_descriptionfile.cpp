@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The message description reader on arbitrary file contents: headers, then rows.
 #include "fuzzsupport.h"
 #include "messagedescription.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The line checksum against a plain reference: same verdict for any line.
 #include "fuzzsupport.h"
 #include "linechecksum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // A whole module fed with arbitrary bytes in arbitrary chunks: the first bytes choose
 // the product mode, the visible page and the chunk size, so every page's parse runs
 // both visible and hidden.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The built-in decoder fed arbitrary bytes in arbitrary chunks, then asked for every
 // kind it lists and made to render each record.
 #include "fuzzsupport.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // A correction stream of arbitrary bytes fed to the statistics in a few chunk sizes, then
 // the snapshot, the report and a baseline taken from what came.
 #include "correctionstatistics.h"

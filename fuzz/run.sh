@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # Builds the fuzz targets (clang, ASan + UBSan) in build-fuzz and runs each for
 # SECONDS (default 60), seeded from the corpora in fuzz/corpus/<target>.
 # Findings land in build-fuzz/findings/<target>; each becomes a regression test.

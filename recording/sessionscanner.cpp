@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The one pass over a recording that builds its SessionIndex.
 //
 // Lines are cut as the message view cuts them. Each line goes to a receiver state,

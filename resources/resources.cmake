@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Included by the top-level CMakeLists (generated files must be known there).
 # Translations are compiled by lrelease at build time. The English file is merged
 # from one .ts source per page family (resources/i18n/en/*.ts); the Chinese file is

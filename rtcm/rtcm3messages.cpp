@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "rtcm3messages.h"
 
 #include "rtcm3bitreader.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # Counts the lines of C++ (tracked *.cpp and *.h files, blank lines and lines holding only
 # a // comment left out): the test code under tests/ against all other code, and their ratio.
 # The project keeps tests at about a quarter to a third of the other code, 35 % at most.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # Mutation testing: which tests catch which faults.
 #
 #   scripts/mutate.sh [options] [ID-PREFIX...]

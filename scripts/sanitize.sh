@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # Builds and runs the whole test suite under the sanitizers:
 #   scripts/sanitize.sh address   # ASan + UBSan, in build-asan
 #   scripts/sanitize.sh thread    # TSan, in build-tsan

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # Installs what a fresh Debian 12 machine lacks (only when missing), then configures
 # and builds the project in ./build. Safe to run again: a second run only rebuilds
 # what changed.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # A large no-loss soak: rxsim sends about SIZE_MB (default 1000) of a mode-2 receiver
 # through a noisy link (corrupted checksums, truncations, lost line ends, garbage,
 # small pieces) straight into the headless console, which accounts for every line. The

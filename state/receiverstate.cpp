@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // How the receiver state is filled: every rule in one place.
 //
 // Lines. The bytes are cut as the message view cuts them (LineFramer, lines up to

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "satellitenumbers.h"
 
 #include <QLatin1String>

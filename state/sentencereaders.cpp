@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The readers of the sentences and logs the receiver state takes. Which reader fills
 // what, and why, is written down in receiverstate.cpp.
 #include "receiverstatedata.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Reads an exported track back with a reader made for each format and compares it with
 # the points it came from. Arguments: the CSV, GPX and KML files. stdin: {"name", "points":
 # [[the CSV's columns, then the quality's 0xRRGGBB]]}, null for unknown.

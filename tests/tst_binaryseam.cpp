@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "binarypage.h"
 #include "moduleharness.h"
 #include "nmeaepoch.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The hot-path text helpers against the toolkit operations they replace: splitting by
 // the regular expression "[,*]" and comparing line.mid(offset, length) with a header.
 #include "fieldtext.h"

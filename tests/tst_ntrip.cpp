@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "ggasentence.h"
 #include "ntripclient.h"
 #include "receiverlines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "receiverstate.h"
 #include "sessionindex.h"
 #include "sessiontrack.h"

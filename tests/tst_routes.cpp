@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The route table against the behaviour it stands for: which page takes the lines at
 // the edges of the header tests. Every edge line also goes through a module with no
 // page on screen, which holds the pages to the table.

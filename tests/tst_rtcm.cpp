@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The correction stream's figures from real receivers' RTCM 3 (gpsd's captures, also decoded
 // by RTKLIB's convbin) and from frames built here at the edges.
 #include "correctionstatistics.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The player bar and its timeline on hand-built indexes: what each pixel column shows,
 // how the mouse and the keys map to epochs, and what the bar's controls ask for.
 #include "playerbar.h"

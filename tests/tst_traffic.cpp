@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The traffic layer and its views: kinds cut from the edges of lines, the ring across
 // wrap-around, rates and gaps of a stream with known timing, the console's filters and
 // batched rows, readable text of bad bytes, field names, and saving what copy gives.

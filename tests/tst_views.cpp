@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The receiver views through their models: what each turns a hand-built snapshot into,
 // the edges of the sky plot, the threshold and the gaps, and that hidden views do no work.
 #include "correctionsview.h"

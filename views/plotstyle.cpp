@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "plotstyle.h"
 
 #include <qwt_date_scale_draw.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 // QMutex locks and unlocks inside QtCore, which a thread-sanitizer build does not

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "bd3iontable.h"
 
 #include "plainrecordform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "bestpostable.h"
 
 // Rows 2 and 3 are crossed on purpose: "lat" is described as longitude and "lon" as

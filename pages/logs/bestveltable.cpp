@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "bestveltable.h"
 
 // The latency row has no unit although its description speaks of seconds: the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "matchedpostable.h"
 
 // Unlike the best-position pages, "lat" and "lon" are described the right way round

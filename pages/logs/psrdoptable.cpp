@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "psrdoptable.h"
 
 DopPageSpec PsrdopTable::dopSpec(const QMetaObject &page)

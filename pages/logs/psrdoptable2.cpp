@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "psrdoptable2.h"
 
 #include "psrdoptable.h"

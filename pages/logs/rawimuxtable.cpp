@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "rawimuxtable.h"
 
 const FieldTableSpec &RawimuxTable::pageSpec()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "satvistable.h"
 
 const ListPageSpec &SATVISTable::pageSpec()

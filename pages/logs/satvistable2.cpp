@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "satvistable2.h"
 
 const ListPageSpec &SATVISTable2::pageSpec()

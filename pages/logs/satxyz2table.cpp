@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "satxyz2table.h"
 
 const ListPageSpec &Satxyz2Table::pageSpec()

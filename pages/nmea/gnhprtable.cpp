@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "gnhprtable.h"
 
 const FieldTableSpec &GnhprTable::pageSpec()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "tratable.h"
 
 const FieldTableSpec &TRAtable::pageSpec()

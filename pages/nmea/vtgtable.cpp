@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "vtgtable.h"
 
 const FieldTableSpec &VTGTable::pageSpec()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "jam.h"
 
 const FieldTableSpec &JAM::pageSpec()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Corrections end to end with real parts: rxsim as a base station streams RTCM 3 into
 // RTKLIB's str2str acting as an NTRIP caster; the console takes the mountpoint and
 // writes the corrections to a second rxsim, a rover that is RTK fixed only while they

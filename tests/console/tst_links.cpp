@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The console on shared links: a receiver owned by a real gpsd (gpsfake), and the
 // receiver's bytes re-served to several clients at once.
 #include "rawbyteserver.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // A maker-style decode library for the tests of the decode page's loading seam. It
 // exports the five GNSSDecode functions with one decoder state per process, like the
 // maker's, and logs every call so a test can check how the page drives it.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // rxsim: a simulated GNSS receiver that writes the byte stream the console reads.
 #include "outputs.h"
 #include "simulator.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "basestation.h"
 
 #include "rtcm3encoder.h"

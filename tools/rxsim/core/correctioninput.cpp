@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "correctioninput.h"
 
 namespace rxsim {

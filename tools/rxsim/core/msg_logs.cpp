@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The maker's ASCII logs: solutions, attitude, observations, satellite lists,
 // ephemerides, broadcast parameters and receiver status.
 #include "formatting.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // NMEA sentences: the standard position, time and attitude sentences, the maker's
 // high-rate and attitude variants, satellites in view and, for the binary decoder,
 // DOP and fault-detection sentences.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The timing receiver's "$" sentences: system times, leap second, 1PPS, timing
 // position, survey-in progress, satellite counts and interference report.
 #include "formatting.h"

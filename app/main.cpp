@@ -53,11 +53,19 @@ int fail(const QString &message)
     return 1;
 }
 
-// A bare file name would not be replayed (the demo session would play instead).
+// One recording at a time, named once: "msgview FILE" or "--replay FILE".
 int refuseStrayArguments(const QCommandLineParser &parser)
 {
-    const QString argument = parser.positionalArguments().constFirst();
-    return fail(QStringLiteral("unexpected argument %1 (to replay a recording: --replay %1)").arg(argument));
+    const QString argument = parser.positionalArguments().constLast();
+    return fail(QStringLiteral("unexpected argument %1 (one recording at a time: msgview FILE or --replay FILE)")
+                    .arg(argument));
+}
+
+bool hasStrayArguments(const QCommandLineParser &parser, const QCommandLineOption &replay,
+                       const QCommandLineOption &connect)
+{
+    const int count = parser.positionalArguments().size();
+    return count > 1 || (count == 1 && (parser.isSet(replay) || parser.isSet(connect)));
 }
 
 // One pass to index the recording, a second over the span to export.
@@ -166,6 +174,8 @@ int main(int argc, char **argv)
     const QCommandLineOption toOption(QStringLiteral("to"),
                                       QStringLiteral("With --export: end with the epoch at TIME (receiver UTC)."),
                                       QStringLiteral("TIME"));
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A recorded session to play, as --replay FILE."),
+                                 QStringLiteral("[FILE]"));
     parser.addOptions({connectOption, replayOption, modeOption, langOption, rateOption, recordOption, demoOption,
                        headlessOption, snapshotOption, reportOption, durationOption, serveOption, ntripOption,
                        ntripGgaOption, exportOption, outputOption, fromOption, toOption});
@@ -182,11 +192,16 @@ int main(int argc, char **argv)
         QCoreApplication core(argc, argv);
         parser.process(core); // prints and exits
     }
-    if (understood && !parser.positionalArguments().isEmpty())
+    if (understood && hasStrayArguments(parser, replayOption, connectOption))
         return refuseStrayArguments(parser);
+    // The recording to play: --replay FILE, or the file named alone.
+    const auto replaySet = [&] { return parser.isSet(replayOption) || !parser.positionalArguments().isEmpty(); };
+    const auto replayValue = [&] {
+        return parser.isSet(replayOption) ? parser.value(replayOption) : parser.positionalArguments().value(0);
+    };
     if (understood && parser.isSet(exportOption)) {
         QCoreApplication core(argc, argv);
-        return exportRecording(parser.value(replayOption), parser.value(exportOption), parser.value(fromOption),
+        return exportRecording(replayValue(), parser.value(exportOption), parser.value(fromOption),
                                parser.value(toOption), parser.value(outputOption));
     }
     const auto runsHeadless = [&] {
@@ -201,7 +216,7 @@ int main(int argc, char **argv)
                                : parser.errorText());
     QApplication app(argc, argv);
     parser.process(app);
-    if (!parser.positionalArguments().isEmpty())
+    if (hasStrayArguments(parser, replayOption, connectOption))
         return refuseStrayArguments(parser);
     // The library is quiet about the files it cannot load unless asked; the console's
     // log (standard error) should say so.
@@ -290,7 +305,7 @@ int main(int argc, char **argv)
                 session.startCorrections(*caster, ggaSeconds);
             feed = feedFromSession(session, durationSeconds, &status);
         } else {
-            const QString path = parser.isSet(replayOption) ? parser.value(replayOption)
+            const QString path = replaySet() ? replayValue()
                 : parser.isSet(demoOption)                  ? QString::fromLatin1(kDemoSession)
                                                             : QStringLiteral("-");
             if (!openInput(input, path))
@@ -302,8 +317,8 @@ int main(int argc, char **argv)
                           out, &session)
             : runHeadless(module, state, traffic, feed, out);
         // A recorded file also shows the player, paused at 60 % of it on the satellites.
-        const QString replayPath = parser.value(replayOption);
-        if (parser.isSet(snapshotOption) && !connection && parser.isSet(replayOption) && replayPath != QLatin1String("-")
+        const QString replayPath = replayValue();
+        if (parser.isSet(snapshotOption) && !connection && replaySet() && replayPath != QLatin1String("-")
             && writePlayerPictures(replayPath, language, mode, 0.6, QStringLiteral("GSV"),
                                    QFileInfo(parser.value(snapshotOption)).absoluteFilePath(), out)
                 != 2)
@@ -323,7 +338,7 @@ int main(int argc, char **argv)
     window.show();
     if (parser.isSet(recordOption))
         window.startRecording(parser.value(recordOption));
-    const QString replayPath = parser.isSet(replayOption) ? parser.value(replayOption) : QString::fromLatin1(kDemoSession);
+    const QString replayPath = replaySet() ? replayValue() : QString::fromLatin1(kDemoSession);
     bool rateOk = false;
     const int rate = parser.value(rateOption).toInt(&rateOk);
     if (!rateOk || rate < 0)

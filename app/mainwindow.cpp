@@ -151,12 +151,11 @@ void MainWindow::createModule()
     if (m_splitter->indexOf(m_stack) < 0)
         m_splitter->addWidget(m_stack);
     m_splitter->setStretchFactor(1, 1);
-    setWindowTitle(tr("Receiver messages"));
-    connect(m_module, &MessageViewModules::messageViewTitleShow, this,
-            [this](const QString &title) {
-                m_pageOnScreen = title;
-                setWindowTitle(tr("Receiver messages - %1").arg(title));
-            });
+    updateWindowTitle();
+    connect(m_module, &MessageViewModules::messageViewTitleShow, this, [this](const QString &title) {
+        m_pageOnScreen = title;
+        updateWindowTitle();
+    });
     m_module->addItemToTree(m_mode);
 }
 
@@ -491,8 +490,22 @@ void MainWindow::onData(const QByteArray &bytes)
     m_state.feed(bytes);
 }
 
+// The page on screen, and a receiver that was lost: seen in the task bar too.
+void MainWindow::updateWindowTitle()
+{
+    QString title = m_pageOnScreen.isEmpty() ? tr("Receiver messages") : tr("Receiver messages - %1").arg(m_pageOnScreen);
+    if (m_receiverLost)
+        title = tr("%1 (receiver lost)").arg(title);
+    setWindowTitle(title);
+}
+
 void MainWindow::onConnectionState(ReceiverConnection::State state, const QString &text)
 {
+    const bool lost = state == ReceiverConnection::State::Retrying || state == ReceiverConnection::State::Failed;
+    if (lost != m_receiverLost) {
+        m_receiverLost = lost;
+        updateWindowTitle();
+    }
     m_connectionLabel->setText(text);
     if (state == ReceiverConnection::State::Failed || state == ReceiverConnection::State::Retrying)
         statusBar()->showMessage(text, 5000);

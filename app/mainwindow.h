@@ -77,6 +77,7 @@ private:
     void forgetReceiver();
     void onConnectionState(ReceiverConnection::State state, const QString &text);
     void updateStatus();
+    void updateWindowTitle();
     void chooseSerialPort();
     void chooseNetworkPeer(const QString &kind, const QString &title, const QString &label);
     void toggleServing(bool on);
@@ -115,6 +116,7 @@ private:
     CorrectionsView *m_correctionsView = nullptr;
     QDockWidget *m_correctionsDock = nullptr;
     QString m_pageOnScreen; // the tree label of the page last brought forward
+    bool m_receiverLost = false;
     QPointer<RecordingPlayer> m_player; // the session owns it
     PlayerBar *m_playerBar = nullptr;
     QToolBar *m_playerToolBar = nullptr;

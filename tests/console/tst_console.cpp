@@ -148,9 +148,12 @@ void ConsoleTest::tcpReceivesReconnectsAndSendsCommands()
     peer->disconnectFromHost();
     QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Retrying));
     QVERIFY(window.connection()->stateText().contains("peer closed"));
+    // The title says so, next to the page on screen, until the receiver is back.
+    QCOMPARE(window.windowTitle(), QString("Receiver messages - Bestpos (receiver lost)"));
     QTRY_VERIFY_WITH_TIMEOUT(server.hasPendingConnections(), 10000);
     QTcpSocket *again = server.nextPendingConnection();
     QVERIFY(waitForState(window.connection(), ReceiverConnection::State::Open));
+    QCOMPARE(window.windowTitle(), QString("Receiver messages - Bestpos"));
     again->write(demo.mid(firstLineEnd + 10));
     again->flush();
     QTRY_VERIFY(window.module()->lineCount() >= quint64(demo.count("\r\n")));
@@ -426,7 +429,10 @@ void ConsoleTest::commandLineWithoutDisplay_data()
     QTest::newRow("version") << QStringList{"--version"} << 0 << "msgview " MSGVIEW_VERSION "\n";
     QTest::newRow("window") << QStringList{"--mode", "0"} << 1 << "no display";
     QTest::newRow("unknown option") << QStringList{"--mdoe", "2"} << 1 << "Unknown option 'mdoe'";
-    QTest::newRow("file without --replay") << QStringList{"capture.log"} << 1 << "--replay capture.log";
+    QTest::newRow("a file alone plays") << QStringList{"--headless", DEMO_SAMPLE} << 0 << "total lines: 600 (taken 600";
+    QTest::newRow("two files") << QStringList{"a.log", "b.log"} << 1 << "unexpected argument b.log";
+    QTest::newRow("a file and --replay") << QStringList{"--replay", "a.log", "b.log"} << 1 << "unexpected argument b.log";
+    QTest::newRow("a file and --connect") << QStringList{"--connect", "stdin", "a.log"} << 1 << "unexpected argument a.log";
     QTest::newRow("headless reads standard input") << QStringList{"--headless"} << 0 << "total lines: 0 (";
     QTest::newRow("report of nothing") << QStringList{"--report", "-"} << 0 << "\"quality\": \"no fix\"";
     QTest::newRow("report nowhere") << QStringList{"--report", "/no/such/dir/state.json"} << 1

@@ -99,25 +99,31 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR})
 
 set(MESSAGEVIEW_EXACT "(= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_LIST_DIR}/triggers)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "GNSS receiver message pages for Qt applications
-The library shows what a GNSS receiver sends, one live page per kind of message
-(NMEA sentences, the receiver's ASCII logs, timing sentences, binary messages),
-with a tree of the messages to choose from. The host feeds it the received bytes.")
+The library shows what a GNSS receiver sends, one live page per kind of
+message (NMEA sentences, the receiver's ASCII logs, timing sentences,
+binary messages), with a tree of the messages to choose from. The host
+feeds it the received bytes.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libmessageview1 ${MESSAGEVIEW_EXACT}, qtbase5-dev")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "GNSS receiver message pages for Qt applications - development files
-The headers, a CMake package (find_package(MessageView), target MessageView::messageview)
-and a pkg-config file (messageview) to build a host of the receiver message pages.")
+The headers, a CMake package (find_package(MessageView), target
+MessageView::messageview) and a pkg-config file (messageview) to build
+a host of the receiver message pages.")
 set(CPACK_DEBIAN_CONSOLE_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_CONSOLE_PACKAGE_DEPENDS "libmessageview1 ${MESSAGEVIEW_EXACT}")
 set(CPACK_COMPONENT_CONSOLE_DESCRIPTION "GNSS receiver console
-A window with one live page per kind of message a GNSS receiver sends, its sky,
-signals and position, fed from a serial port, TCP, gpsd, a recording or standard
-input; it records, replays and exports sessions and forwards NTRIP corrections.")
+A window with one live page per kind of message a GNSS receiver sends,
+its sky, signals and position, fed from a serial port, TCP, gpsd, a
+recording or standard input; it records, replays and exports sessions
+and forwards NTRIP corrections to the receiver.")
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_SECTION electronics)
 set(CPACK_COMPONENT_SIMULATOR_DESCRIPTION "simulated GNSS receiver
-It writes what a GNSS receiver in a vehicle driving a loop would send: NMEA
-sentences, ASCII logs or timing sentences, to standard output, a file, TCP
-clients or a serial port, with faults on demand, or RTCM 3 as a base station.")
+It writes what a GNSS receiver in a vehicle driving a loop would send:
+NMEA sentences, ASCII logs or timing sentences, to standard output, a
+file, TCP clients or a serial port, with faults on demand, or RTCM 3 as
+a base station.")
 
 include(CPack)

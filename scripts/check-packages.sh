@@ -3,7 +3,7 @@
 # After scripts/package.sh: installs the packages of dist/, runs the installed console
 # and simulator, builds examples/host against the installed SDK (CMake and pkg-config),
 # runs lintian on every package (an error fails the check), then removes the packages
-# again, whatever happened.
+# again (purged: the library leaves no trace), whatever happened.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -23,7 +23,7 @@ done
 
 work=$(mktemp -d)
 cleanup() {
-    DEBIAN_FRONTEND=noninteractive "${sudo_cmd[@]}" apt-get remove -y -qq "${packages[@]}" >/dev/null || true
+    DEBIAN_FRONTEND=noninteractive "${sudo_cmd[@]}" apt-get remove --purge -y -qq "${packages[@]}" >/dev/null || true
     rm -rf "$work"
 }
 trap cleanup EXIT
@@ -33,7 +33,10 @@ step() { echo "== $*"; }
 step "installing ${packages[*]}"
 DEBIAN_FRONTEND=noninteractive "${sudo_cmd[@]}" apt-get install -y -qq "${debs[@]}" >/dev/null
 
-export QT_QPA_PLATFORM=offscreen
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work/runtime"
+mkdir -m 0700 "$XDG_RUNTIME_DIR"
+step "desktop entry"
+desktop-file-validate /usr/share/applications/msgview.desktop
 step "msgview --headless --demo"
 /usr/bin/msgview --headless --demo >"$work/demo.txt"
 step "rxsim | msgview --headless --replay -"
@@ -47,7 +50,8 @@ step "examples/host with pkg-config"
 g++ -std=c++17 -fPIC "$root/examples/host/main.cpp" -o "$work/host-pkgconfig" $(pkg-config --cflags --libs messageview)
 for host in "$work/host-cmake/messageview-host" "$work/host-pkgconfig"; do
     # The host links the installed library, not one of a build tree.
-    ldd "$host" | grep -q "libmessageview.so.1 => /usr/lib/" || { echo "$host: not linked to the installed library" >&2; exit 1; }
+    ldd "$host" >"$work/ldd.txt"
+    grep -Eq "libmessageview.so.1 => /(usr/)?lib/" "$work/ldd.txt" || { echo "$host: not linked to the installed library" >&2; exit 1; }
 done
 
 step "examples/host on a recording"
@@ -62,8 +66,13 @@ done
 step "lintian"
 lintian_failed=0
 for deb in "${debs[@]}"; do
-    # lintian exits non-zero on errors alone; the E: lines decide.
-    report=$(lintian --no-tag-display-limit "$deb" 2>&1 || true)
+    # lintian's status is 1 for errors in the package, 2 when lintian itself fails.
+    status=0
+    report=$(lintian --tag-display-limit 0 "$deb" 2>"$work/lintian.err") || status=$?
+    if [ "$status" -gt 1 ]; then
+        cat "$work/lintian.err" >&2
+        exit 1
+    fi
     [ -n "$report" ] && echo "$report"
     if grep -q '^E:' <<<"$report"; then
         lintian_failed=1

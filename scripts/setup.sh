@@ -8,7 +8,8 @@ cd "$(dirname "$0")/.."
 
 packages=(cmake ninja-build g++ ccache pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools
           libqt5serialport5-dev libqwt-qt5-dev libgeographiclib-dev socat fonts-dejavu-core
-          rtklib gpsd gpsd-clients python3)
+          rtklib gpsd gpsd-clients python3
+          dpkg-dev lintian desktop-file-utils)
 missing=()
 for pkg in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$pkg" 2>/dev/null | grep -q "install ok installed" || missing+=("$pkg")

@@ -96,12 +96,14 @@ private:
 
 SessionScanner::KindTrack *SessionScanner::track(const char *line, int length)
 {
-    const QByteArray kind = messageKind(line, length);
-    auto found = m_kinds.find(kind);
+    // Looked up in place: a copy only for a kind not seen before.
+    const int kindLength = std::max(messageKindLength(line, length), 0);
+    auto found = m_kinds.find(QByteArray::fromRawData(line + 1, kindLength));
     if (found != m_kinds.end())
         return &found.value();
     if (m_kinds.size() >= kMaxKinds)
         return nullptr;
+    const QByteArray kind(line + 1, kindLength);
     KindTrack fresh;
     fresh.number = m_index.m_kindNames.size();
     fresh.firstEpoch = fresh.lastEpoch = std::max(m_epoch, 0);

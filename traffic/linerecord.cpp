@@ -24,13 +24,19 @@ bool isDamaged(LineOutcome outcome)
 
 QByteArray messageKind(const char *line, int length)
 {
+    const int kindLength = messageKindLength(line, length);
+    return kindLength < 0 ? QByteArray() : QByteArray(line + 1, kindLength);
+}
+
+int messageKindLength(const char *line, int length)
+{
     constexpr int longestKind = 32;
     if (!line || length < 1 || (line[0] != '$' && line[0] != '#'))
-        return {};
+        return -1;
     const char *begin = line + 1;
     const char *end = begin + std::min(length - 1, longestKind);
     const char *stop = std::find_if(begin, end, [](char c) { return c == ',' || c == '*' || c == '\r' || c == '\n'; });
-    return QByteArray(begin, int(stop - begin));
+    return int(stop - begin);
 }
 
 int lengthWithoutLineEnd(const QByteArray &bytes)

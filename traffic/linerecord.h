@@ -38,6 +38,9 @@ struct LineRecord
 // end): "GPGSA", "GNGGA", "PGRME", "BESTPOSA". Empty when the line does not start
 // with '$' or '#'. At most 32 characters are looked at.
 QByteArray messageKind(const char *line, int length);
+// The same kind without a copy: its length (it starts at line + 1), or -1 for a line
+// that does not start with '$' or '#'.
+int messageKindLength(const char *line, int length);
 
 // The length of the bytes without the "\r" and "\n" they end in.
 int lengthWithoutLineEnd(const QByteArray &bytes);
